@@ -1,0 +1,41 @@
+// Processor-feature query, from CPUID (and XGETBV for the register states that
+// the operating system must save before wide vectors can be used).
+#include "cpuid.h"
+#include "qvncore.h"
+
+#include <cstdint>
+
+namespace {
+
+std::uint64_t detectFeatures() {
+    using qvncore::cpuid;
+    std::uint64_t f = 0;
+    const qvncore::CpuidRegs l1 = cpuid(1);
+    if (l1.edx & (1u << 25)) f |= qvnCpuSSE;
+    if (l1.edx & (1u << 26)) f |= qvnCpuSSE2;
+    if (l1.ecx & (1u << 0)) f |= qvnCpuSSE3;
+    if (l1.ecx & (1u << 9)) f |= qvnCpuSSSE3;
+    if (l1.ecx & (1u << 19)) f |= qvnCpuSSE41;
+    if (l1.ecx & (1u << 20)) f |= qvnCpuSSE42;
+
+    const bool osxsave = l1.ecx & (1u << 27);
+    const std::uint64_t xcr0 = osxsave ? qvncore::xgetbv0() : 0;
+    const bool ymmState = (xcr0 & 0x6) == 0x6;      // XMM and YMM
+    const bool zmmState = (xcr0 & 0xE6) == 0xE6;    // plus opmask and ZMM
+    if (ymmState && (l1.ecx & (1u << 28))) f |= qvnCpuAVX;
+
+    const qvncore::CpuidRegs l7 = cpuid(7, 0);
+    if (ymmState && (l7.ebx & (1u << 5))) f |= qvnCpuAVX2;
+    if (zmmState && (l7.ebx & (1u << 16))) f |= qvnCpuAVX512F | qvnCpuWideScratch;
+    if (zmmState && (l7.ebx & (1u << 30))) f |= qvnCpuAVX512BW;
+    return f;
+}
+
+}  // namespace
+
+QVN_API int ownGetFeature(Qvn64s mask) {
+    // Answered afresh on each call: CPUID is cheap next to its one caller, and
+    // the library keeps no state between calls.
+    const std::uint64_t want = static_cast<std::uint64_t>(mask);
+    return want != 0 && (detectFeatures() & want) == want;
+}

@@ -1,0 +1,364 @@
+// The instruction-set layer of the sse3 target: the only file that includes
+// intrinsics headers. Kernels use these neutral names on Vec<T> (16 bytes of
+// T); a wider target provides the same functions on its own vectors.
+//
+// Nothing here may emit an instruction newer than SSE3: the baseline build is
+// checked for that by disassembly. Operations SSE3 lacks (unsigned 16-bit
+// min/max, 32-bit multiplies, unsigned packs) are composed from SSE2.
+#ifndef QVN_KERNELS_ISA_SSE3_H
+#define QVN_KERNELS_ISA_SSE3_H
+
+#include <emmintrin.h>
+#include <pmmintrin.h>
+#include <xmmintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#include "kernels/target.h"
+
+QVN_TARGET_BEGIN
+namespace isa {
+
+inline constexpr std::size_t kVectorBytes = 16;
+
+template <class T>
+struct Vec;
+#define QVN_INT_VEC(T)    \
+    template <>           \
+    struct Vec<T> {       \
+        __m128i v;        \
+    };
+QVN_INT_VEC(std::uint8_t)
+QVN_INT_VEC(std::int8_t)
+QVN_INT_VEC(std::uint16_t)
+QVN_INT_VEC(std::int16_t)
+QVN_INT_VEC(std::uint32_t)
+QVN_INT_VEC(std::int32_t)
+QVN_INT_VEC(std::uint64_t)
+QVN_INT_VEC(std::int64_t)
+#undef QVN_INT_VEC
+template <>
+struct Vec<float> {
+    __m128 v;
+};
+template <>
+struct Vec<double> {
+    __m128d v;
+};
+
+// Elements of T in one vector.
+template <class T>
+inline constexpr std::size_t kLanes = kVectorBytes / sizeof(T);
+
+template <class T>
+inline constexpr bool kIsInt = !(std::is_same_v<T, float> || std::is_same_v<T, double>);
+
+template <class T>
+inline bool aligned16(const T* p) {
+    return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0;
+}
+
+// ---- raw 128-bit views ------------------------------------------------------
+template <class T>
+inline __m128i bits(Vec<T> a) {
+    if constexpr (std::is_same_v<T, float>) return _mm_castps_si128(a.v);
+    else if constexpr (std::is_same_v<T, double>) return _mm_castpd_si128(a.v);
+    else return a.v;
+}
+template <class T>
+inline Vec<T> fromBits(__m128i b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_castsi128_ps(b)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_castsi128_pd(b)};
+    else return {b};
+}
+// Reinterprets the 16 bytes as another element type.
+template <class U, class T>
+inline Vec<U> cast(Vec<T> a) {
+    return fromBits<U>(bits(a));
+}
+
+// ---- loads and stores --------------------------------------------------------
+template <class T>
+inline Vec<T> loadU(const T* p) {
+    return fromBits<T>(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p)));
+}
+template <class T>
+inline Vec<T> loadA(const T* p) {
+    return fromBits<T>(_mm_load_si128(reinterpret_cast<const __m128i*>(p)));
+}
+template <class T>
+inline void storeU(T* p, Vec<T> a) {
+    _mm_storeu_si128(reinterpret_cast<__m128i*>(p), bits(a));
+}
+template <class T>
+inline void storeA(T* p, Vec<T> a) {
+    _mm_store_si128(reinterpret_cast<__m128i*>(p), bits(a));
+}
+// Non-temporal store to a 16-byte aligned address; finish with storeFence().
+template <class T>
+inline void storeStream(T* p, Vec<T> a) {
+    _mm_stream_si128(reinterpret_cast<__m128i*>(p), bits(a));
+}
+// Orders every earlier non-temporal store before what follows.
+inline void storeFence() { _mm_sfence(); }
+// Low 8 bytes only.
+template <class T>
+inline Vec<T> loadLow(const T* p) {
+    return fromBits<T>(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)));
+}
+template <class T>
+inline void storeLow(T* p, Vec<T> a) {
+    _mm_storel_epi64(reinterpret_cast<__m128i*>(p), bits(a));
+}
+
+// ---- constants ---------------------------------------------------------------
+template <class T>
+inline Vec<T> zero() {
+    return fromBits<T>(_mm_setzero_si128());
+}
+template <class T>
+inline Vec<T> set1(T x) {
+    if constexpr (sizeof(T) == 1) return {_mm_set1_epi8(static_cast<char>(x))};
+    else if constexpr (std::is_same_v<T, float>) return {_mm_set1_ps(x)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_set1_pd(x)};
+    else if constexpr (sizeof(T) == 2) return {_mm_set1_epi16(static_cast<short>(x))};
+    else if constexpr (sizeof(T) == 4) return {_mm_set1_epi32(static_cast<int>(x))};
+    else return {_mm_set1_epi64x(static_cast<long long>(x))};
+}
+
+// ---- bitwise -----------------------------------------------------------------
+template <class T>
+inline Vec<T> bitAnd(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm_and_si128(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitOr(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm_or_si128(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitXor(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm_xor_si128(bits(a), bits(b))); }
+// ~a & b
+template <class T>
+inline Vec<T> andNot(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm_andnot_si128(bits(a), bits(b))); }
+// Lanes of a where mask lanes are all ones, of b where they are zero.
+template <class T>
+inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
+    return bitOr(bitAnd(mask, a), andNot(mask, b));
+}
+
+// ---- integer arithmetic -------------------------------------------------------
+template <class T>
+inline Vec<T> add(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_add_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_add_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm_add_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm_add_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm_add_epi32(a.v, b.v)};
+    else return {_mm_add_epi64(a.v, b.v)};
+}
+template <class T>
+inline Vec<T> sub(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_sub_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_sub_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm_sub_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm_sub_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm_sub_epi32(a.v, b.v)};
+    else return {_mm_sub_epi64(a.v, b.v)};
+}
+// Saturating add and subtract of 8- and 16-bit lanes.
+inline Vec<std::uint8_t> addSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm_adds_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> addSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm_adds_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> addSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm_adds_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> addSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_adds_epi16(a.v, b.v)}; }
+inline Vec<std::uint8_t> subSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm_subs_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> subSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm_subs_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> subSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm_subs_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> subSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_subs_epi16(a.v, b.v)}; }
+
+// 16-bit products: low and high halves of the 32-bit product.
+inline Vec<std::int16_t> mulLo(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulLo(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> mulHi(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_mulhi_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulHi(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm_mulhi_epu16(a.v, b.v)}; }
+// Sum of adjacent 16-bit products into 32-bit lanes.
+inline Vec<std::int32_t> mulAddPairs(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_madd_epi16(a.v, b.v)}; }
+// Unsigned 32x32->64 product of lanes 0 and 2.
+inline Vec<std::uint64_t> mulEven(Vec<std::uint32_t> a, Vec<std::uint32_t> b) { return {_mm_mul_epu32(a.v, b.v)}; }
+
+// Shifts by an immediate count (all lanes).
+template <int N, class T>
+inline Vec<T> shiftLeft(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) return {_mm_slli_epi16(a.v, N)};
+    else if constexpr (sizeof(T) == 4) return {_mm_slli_epi32(a.v, N)};
+    else return {_mm_slli_epi64(a.v, N)};
+}
+// Arithmetic for signed lanes, logical for unsigned ones.
+template <int N, class T>
+inline Vec<T> shiftRight(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm_srai_epi16(a.v, N)};
+        else return {_mm_srli_epi16(a.v, N)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm_srai_epi32(a.v, N)};
+        else return {_mm_srli_epi32(a.v, N)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in this target");
+        return {_mm_srli_epi64(a.v, N)};
+    }
+}
+// Shifts by a run-time count held in the low 64 bits of a register.
+struct ShiftCount {
+    __m128i c;
+};
+inline ShiftCount shiftCount(int n) { return {_mm_cvtsi32_si128(n)}; }
+template <class T>
+inline Vec<T> shiftLeft(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) return {_mm_sll_epi16(a.v, n.c)};
+    else if constexpr (sizeof(T) == 4) return {_mm_sll_epi32(a.v, n.c)};
+    else return {_mm_sll_epi64(a.v, n.c)};
+}
+template <class T>
+inline Vec<T> shiftRight(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm_sra_epi16(a.v, n.c)};
+        else return {_mm_srl_epi16(a.v, n.c)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm_sra_epi32(a.v, n.c)};
+        else return {_mm_srl_epi32(a.v, n.c)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in this target");
+        return {_mm_srl_epi64(a.v, n.c)};
+    }
+}
+// Whole-register byte shifts.
+template <int N, class T>
+inline Vec<T> bytesLeft(Vec<T> a) { return fromBits<T>(_mm_slli_si128(bits(a), N)); }
+template <int N, class T>
+inline Vec<T> bytesRight(Vec<T> a) { return fromBits<T>(_mm_srli_si128(bits(a), N)); }
+
+// ---- comparisons (all-ones lanes where true) ------------------------------------
+template <class T>
+inline Vec<T> cmpEq(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_cmpeq_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_cmpeq_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm_cmpeq_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm_cmpeq_epi16(a.v, b.v)};
+    else return {_mm_cmpeq_epi32(a.v, b.v)};
+}
+// a > b, signed lanes and floats.
+template <class T>
+inline Vec<T> cmpGt(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_cmpgt_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_cmpgt_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) {
+        static_assert(std::is_signed_v<T>, "signed lanes");
+        return {_mm_cmpgt_epi8(a.v, b.v)};
+    } else if constexpr (sizeof(T) == 2) {
+        static_assert(std::is_signed_v<T>, "signed lanes");
+        return {_mm_cmpgt_epi16(a.v, b.v)};
+    } else {
+        static_assert(std::is_signed_v<T>, "signed lanes");
+        return {_mm_cmpgt_epi32(a.v, b.v)};
+    }
+}
+// One bit per byte lane: bit i is the top bit of byte i.
+template <class T>
+inline int moveMask8(Vec<T> a) { return _mm_movemask_epi8(bits(a)); }
+inline int moveMask(Vec<float> a) { return _mm_movemask_ps(a.v); }
+
+// ---- min / max --------------------------------------------------------------------
+inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm_min_epu8(a.v, b.v)}; }
+inline Vec<std::uint8_t> max(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm_max_epu8(a.v, b.v)}; }
+inline Vec<std::int16_t> min(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_min_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> max(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm_max_epi16(a.v, b.v)}; }
+// Unsigned 16-bit lanes through saturating subtraction (SSE2 has no pminuw).
+inline Vec<std::uint16_t> min(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return sub(a, subSat(a, b)); }
+inline Vec<std::uint16_t> max(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return add(b, subSat(a, b)); }
+inline Vec<std::int32_t> min(Vec<std::int32_t> a, Vec<std::int32_t> b) { return select(cmpGt(a, b), b, a); }
+inline Vec<std::int32_t> max(Vec<std::int32_t> a, Vec<std::int32_t> b) { return select(cmpGt(a, b), a, b); }
+inline Vec<float> min(Vec<float> a, Vec<float> b) { return {_mm_min_ps(a.v, b.v)}; }
+inline Vec<float> max(Vec<float> a, Vec<float> b) { return {_mm_max_ps(a.v, b.v)}; }
+inline Vec<double> min(Vec<double> a, Vec<double> b) { return {_mm_min_pd(a.v, b.v)}; }
+inline Vec<double> max(Vec<double> a, Vec<double> b) { return {_mm_max_pd(a.v, b.v)}; }
+
+// ---- interleave, widen, narrow ------------------------------------------------------
+// Lanes 0,1,.. of a and b interleaved (a0 b0 a1 b1 ...) from the low or high half.
+template <class T>
+inline Vec<T> zipLo(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_unpacklo_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_unpacklo_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm_unpacklo_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm_unpacklo_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm_unpacklo_epi32(a.v, b.v)};
+    else return {_mm_unpacklo_epi64(a.v, b.v)};
+}
+template <class T>
+inline Vec<T> zipHi(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm_unpackhi_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm_unpackhi_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm_unpackhi_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm_unpackhi_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm_unpackhi_epi32(a.v, b.v)};
+    else return {_mm_unpackhi_epi64(a.v, b.v)};
+}
+
+// Zero- or sign-extends the low (Lo) or high (Hi) half to twice the width.
+template <class W, class T>
+inline Vec<W> widenLo(Vec<T> a) {
+    static_assert(sizeof(W) == 2 * sizeof(T), "one step wider");
+    if constexpr (std::is_signed_v<T>) return shiftRight<8 * sizeof(T)>(cast<W>(zipLo(a, a)));
+    else return cast<W>(zipLo(a, zero<T>()));
+}
+template <class W, class T>
+inline Vec<W> widenHi(Vec<T> a) {
+    static_assert(sizeof(W) == 2 * sizeof(T), "one step wider");
+    if constexpr (std::is_signed_v<T>) return shiftRight<8 * sizeof(T)>(cast<W>(zipHi(a, a)));
+    else return cast<W>(zipHi(a, zero<T>()));
+}
+
+// Saturating narrowing of two vectors into one.
+inline Vec<std::uint8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::uint8_t) { return {_mm_packus_epi16(lo.v, hi.v)}; }
+inline Vec<std::int8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::int8_t) { return {_mm_packs_epi16(lo.v, hi.v)}; }
+inline Vec<std::int16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::int16_t) { return {_mm_packs_epi32(lo.v, hi.v)}; }
+// Signed 32-bit to unsigned 16-bit with saturation, composed from SSE2: clamp
+// to 0..65535, bias into the signed range, pack, unbias.
+inline Vec<std::uint16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::uint16_t) {
+    const Vec<std::int32_t> z = zero<std::int32_t>(), top = set1<std::int32_t>(65535), bias = set1<std::int32_t>(32768);
+    lo = sub(min(max(lo, z), top), bias);
+    hi = sub(min(max(hi, z), top), bias);
+    return cast<std::uint16_t>(add(Vec<std::int16_t>{_mm_packs_epi32(lo.v, hi.v)}, set1<std::int16_t>(-32768)));
+}
+template <class N, class W>
+inline Vec<N> packSat(Vec<W> lo, Vec<W> hi) {
+    return packSat(lo, hi, N{});
+}
+
+// ---- floating point -------------------------------------------------------------------
+inline Vec<float> mul(Vec<float> a, Vec<float> b) { return {_mm_mul_ps(a.v, b.v)}; }
+inline Vec<double> mul(Vec<double> a, Vec<double> b) { return {_mm_mul_pd(a.v, b.v)}; }
+inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm_div_ps(a.v, b.v)}; }
+inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm_div_pd(a.v, b.v)}; }
+// The processor's approximate reciprocal (relative error below 1.5 * 2^-12).
+inline Vec<float> rcpApprox(Vec<float> a) { return {_mm_rcp_ps(a.v)}; }
+inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm_cvtepi32_ps(a.v)}; }
+// Converts with the current rounding control; out-of-range lanes give INT32_MIN.
+inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm_cvtps_epi32(a.v)}; }
+// Converts rounding toward zero; out-of-range lanes give INT32_MIN.
+inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm_cvttps_epi32(a.v)}; }
+
+// ---- rounding control -------------------------------------------------------------------
+inline constexpr unsigned kRoundNearest = 0x0000;
+inline constexpr unsigned kRoundTowardZero = 0x6000;
+// Both act as compiler barriers for memory: loads before a change of the
+// rounding control cannot be moved past it, nor stores after it before it, so
+// the conversions between them see the mode that was set.
+inline unsigned getControl() {
+    unsigned csr;
+    __asm__ volatile("stmxcsr %0" : "=m"(csr) : : "memory");
+    return csr;
+}
+inline void setControl(unsigned csr) { __asm__ volatile("ldmxcsr %0" : : "m"(csr) : "memory"); }
+inline unsigned withRounding(unsigned csr, unsigned mode) { return (csr & ~0x6000u) | mode; }
+
+}  // namespace isa
+QVN_TARGET_END
+
+#endif

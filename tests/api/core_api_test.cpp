@@ -1,0 +1,151 @@
+// Image allocation, the version record and the core library, through the
+// shared libraries as a user links them.
+#include <gtest/gtest.h>
+
+#include <climits>
+#include <cstdint>
+#include <cstring>
+
+#include "qvncore.h"
+#include "qvnip.h"
+
+namespace {
+
+TEST(Version, RecordIsExactlyThisBuild) {
+    const QvnVersionInfo* v = qvniGetLibVersion();
+    ASSERT_NE(v, nullptr);
+    EXPECT_EQ(v, qvniGetLibVersion());
+    EXPECT_EQ(v->major, 2022);
+    EXPECT_EQ(v->minor, 1);
+    EXPECT_EQ(v->majorBuild, 0);
+    EXPECT_EQ(static_cast<std::uint32_t>(v->build), 0xC8D62893u);
+    EXPECT_EQ(0, std::memcmp(v->targetCpu, "m7\0\0", 4));
+    EXPECT_STREQ(v->name, "qvnIP SSE3 (m7)");
+    EXPECT_STREQ(v->version, "2022.1.0 (r0xc8d62893)");
+    EXPECT_STREQ(v->buildDate, "Jan 30 2025");
+}
+
+bool aligned64(const void* p) { return (reinterpret_cast<std::uintptr_t>(p) & 63) == 0; }
+
+TEST(Malloc, StepIsRowRoundedUpTo64AndRowsAreWritable) {
+    struct Case { void* (*alloc)(int, int, int*); int bytesPerPixel; };
+    const Case cases[] = {
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_8u_C1(w, h, s); }, 1},
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_8u_C3(w, h, s); }, 3},
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_16s_AC4(w, h, s); }, 8},
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_32f_C2(w, h, s); }, 8},
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_32fc_C4(w, h, s); }, 32},
+        {[](int w, int h, int* s) -> void* { return qvniMalloc_32sc_C3(w, h, s); }, 24},
+    };
+    for (const Case& c : cases)
+        for (int w : {1, 3, 17, 64, 1000}) {
+            int step = -1;
+            void* p = c.alloc(w, 5, &step);
+            ASSERT_NE(p, nullptr);
+            EXPECT_TRUE(aligned64(p));
+            EXPECT_EQ(step % 64, 0);
+            EXPECT_GE(step, w * c.bytesPerPixel);
+            EXPECT_LT(step, w * c.bytesPerPixel + 64);
+            std::memset(p, 0x5A, std::size_t(step) * 5);  // the whole block is ours
+            qvniFree(p);
+        }
+}
+
+TEST(Malloc, OnePixelTakesOneCacheLine) {
+    int step = 0;
+    Qvn8u* p = qvniMalloc_8u_C1(1, 1, &step);
+    ASSERT_NE(p, nullptr);
+    EXPECT_EQ(step, 64);
+    qvniFree(p);
+}
+
+TEST(Malloc, RejectedSizesLeaveStepZero) {
+    int step = 123;
+    EXPECT_EQ(qvniMalloc_8u_C3(715827883, 1, &step), nullptr);  // row bytes exceed 2^31 - 1
+    EXPECT_EQ(step, 0);
+    for (int w : {0, -1}) {
+        step = 7;
+        EXPECT_EQ(qvniMalloc_32f_C1(w, 4, &step), nullptr);
+        EXPECT_EQ(step, 0);
+        step = 7;
+        EXPECT_EQ(qvniMalloc_32f_C1(4, w, &step), nullptr);
+        EXPECT_EQ(step, 0);
+    }
+    EXPECT_EQ(qvniMalloc_8u_C1(1, 1, nullptr), nullptr);
+    // The largest 8u C3 row whose rounding still fits: 715,827,861 pixels.
+    step = 0;
+    EXPECT_EQ(qvniMalloc_8u_C3(715827882, 2, &step), nullptr);  // rounding up overflows
+    EXPECT_EQ(step, 0);
+}
+
+TEST(Malloc, TotalBeyond32BitsKeepsTheStep) {
+    int step = 0;
+    EXPECT_EQ(qvniMalloc_8u_C1(65536, 32768, &step), nullptr);  // exactly 2^31 bytes
+    EXPECT_EQ(step, 65536);
+}
+
+TEST(MallocL, SixtyFourBitArithmetic) {
+    QvnSizeL step = -1;
+    Qvn8u* p = qvniMalloc_8u_C1_L(1, 1, &step);
+    ASSERT_NE(p, nullptr);
+    EXPECT_EQ(step, 64);
+    qvniFree(p);
+
+    // A 2^31-byte row is fine for the _L form; its step is still computed even
+    // when the allocation itself is refused.
+    step = 0;
+    Qvn8u* big = qvniMalloc_8u_C3_L(715827883, 1, &step);
+    EXPECT_EQ(step, 2147483712);
+    qvniFree(big);
+
+    step = 9;
+    EXPECT_EQ(qvniMalloc_32fc_C4_L(QvnSizeL(1) << 60, 1, &step), nullptr);  // row bytes overflow
+    EXPECT_EQ(step, 0);
+    step = 9;
+    EXPECT_EQ(qvniMalloc_8u_C1_L(QvnSizeL(1) << 40, QvnSizeL(1) << 40, &step), nullptr);  // total overflows
+    EXPECT_EQ(step, QvnSizeL(1) << 40);
+    step = 9;
+    EXPECT_EQ(qvniMalloc_16u_C1_L(0, 1, &step), nullptr);
+    EXPECT_EQ(step, 0);
+    EXPECT_EQ(qvniMalloc_16u_C1_L(1, 1, nullptr), nullptr);
+}
+
+TEST(Core, MallocIsAlignedAndRejectsNonPositiveSizes) {
+    for (int size : {1, 63, 64, 65, 4097}) {
+        void* p = qvnMalloc(size);
+        ASSERT_NE(p, nullptr);
+        EXPECT_TRUE(aligned64(p));
+        qvnFree(p);
+        p = qvnMalloc_L(size);
+        ASSERT_NE(p, nullptr);
+        EXPECT_TRUE(aligned64(p));
+        qvnFree(p);
+    }
+    EXPECT_EQ(qvnMalloc(0), nullptr);
+    EXPECT_EQ(qvnMalloc(-5), nullptr);
+    EXPECT_EQ(qvnMalloc_L(-5), nullptr);
+    qvnFree(nullptr);
+}
+
+TEST(Core, CacheSizeIsThisProcessorsLargestCache) {
+    int size = -1;
+    const QvnStatus st = qvnGetMaxCacheSizeB(&size);
+    if (st == 0) {
+        EXPECT_GE(size, 32 * 1024);      // at least an L1 data cache
+        EXPECT_EQ(size % 1024, 0);
+    } else {
+        EXPECT_EQ(size, 0);              // unknown: reported, not guessed
+    }
+    EXPECT_NE(qvnGetMaxCacheSizeB(nullptr), 0);
+}
+
+TEST(Core, FeatureQueryAnswersFromTheProcessor) {
+    EXPECT_NE(ownGetFeature(qvnCpuSSE2), 0);   // every x86-64 processor
+    EXPECT_NE(ownGetFeature(qvnCpuSSE3), 0);   // the baseline of this build
+    EXPECT_EQ(ownGetFeature(0), 0);
+    if (ownGetFeature(qvnCpuAVX2)) {
+        EXPECT_NE(ownGetFeature(qvnCpuAVX), 0);
+    }
+}
+
+}  // namespace

@@ -1,0 +1,338 @@
+#!/usr/bin/env python3
+"""Expands the exported-name table into every list the build needs.
+
+The table (api/shapes.txt and api/<subsystem>[-<part>].txt) is the one source
+of truth for the exported surface. From it come:
+
+  include/qvnip_<subsystem>.h   public declarations (committed; rewritten only
+                                when they change)
+  include/qvnip.h               the umbrella header
+  <out>/api_<sub>_<type>.cpp    one-line export wrappers, sharded by subsystem
+                                and first type token so the build parallelises
+  <out>/qvnip.map               linker version script: only API names global
+  <out>/api_names.txt           every exported name, one per line
+  <out>/api_cases.inc           validation-order cases for the generic API test
+  <out>/shards.txt              the wrapper files, for the build system
+
+Table rows are '|'-separated:
+
+  pattern | T | C | I | L | shape | checks | impl
+
+pattern  the name with {T} (type token), {C} (layout token), {I} ('I' in the
+         in-place form, empty otherwise)
+T, C     space-separated tokens, or '-' when the pattern has none; a two-type
+         token such as 8u16s binds {S} and {D} in shapes and impl
+I        '-' for the ordinary form, 'I' for the in-place form (shape <shape>.I)
+L        'L' adds the _L twin of every name (64-bit sizes and steps); '-' not
+shape    a name from shapes.txt
+checks   the leading validation order, comma separated, or '-': ptr (every
+         pointer), ptr(a b) (the named pointers), roi, step (below 1 fails),
+         step0 (only zero fails); other tokens are family checks that the
+         generic test leaves to the family's own tests
+impl     the C++ callable that implements the name, looked up with the
+         namespaces qvn and qvn::QVN_TARGET in scope;
+         {T} {S} {D} expand to C types, {C} to the layout token, {IP} to
+         true/false for the in-place form
+
+Lines starting with '##' are documentation: they precede the next row's
+declarations in the header. '@include <path>' names a header that the
+wrappers of this table file need. '#' starts a comment.
+"""
+import argparse
+import os
+import re
+import sys
+
+CTYPES = {
+    "1u": "Qvn8u", "8u": "Qvn8u", "8s": "Qvn8s", "16u": "Qvn16u", "16s": "Qvn16s",
+    "32u": "Qvn32u", "32s": "Qvn32s", "64s": "Qvn64s", "32f": "Qvn32f", "64f": "Qvn64f",
+    "32sc": "Qvn32sc", "32fc": "Qvn32fc", "64fc": "Qvn64fc",
+}
+TYPE_RE = re.compile(r"^(\d+(?:u|s|f)c?)(\d+(?:u|s|f)c?)?$")
+SIZES32 = {"step": "int", "roi": "QvnRoiSize", "size": "int"}
+SIZES64 = {"step": "QvnSizeL", "roi": "QvnRoiSizeL", "size": "QvnSizeL"}
+
+
+class TableError(Exception):
+    pass
+
+
+def split_type(tok):
+    m = TYPE_RE.match(tok)
+    if not m or m.group(1) not in CTYPES or (m.group(2) and m.group(2) not in CTYPES):
+        raise TableError(f"unknown type token {tok!r}")
+    return m.group(1), m.group(2) or m.group(1)
+
+
+def subst(text, values):
+    def rep(m):
+        key = m.group(1)
+        if key not in values:
+            raise TableError(f"placeholder {{{key}}} has no value in {text!r}")
+        return values[key]
+    return re.sub(r"\{(\w+)\}", rep, text)
+
+
+def split_params(text):
+    return [p.strip() for p in text.split(",") if p.strip()] if text.strip() not in ("", "void") else []
+
+
+class Param:
+    """One declared parameter: its C type, name and role in the generic test."""
+
+    def __init__(self, raw, values):
+        m = re.match(r"^(.*?)(\w+)\s*(\[\d*\])?$", raw)
+        if not m:
+            raise TableError(f"cannot read parameter {raw!r}")
+        rawtype = m.group(1).strip()
+        self.decl = subst(raw, values)
+        self.name = m.group(2)
+        self.ctype = subst(rawtype, values) + ("*" if m.group(3) else "")
+        if "*" in self.ctype:
+            self.role = "ptr"
+        elif rawtype == "{step}":
+            self.role = "step"
+        elif rawtype == "{roi}":
+            self.role = "roi"
+        else:
+            self.role = "value"
+
+
+def read_shapes(path):
+    shapes = {}
+    with open(path) as f:
+        for n, line in enumerate(f, 1):
+            line = line.split("#", 1)[0].strip()
+            if not line:
+                continue
+            cols = [c.strip() for c in line.split("|")]
+            if len(cols) not in (3, 4):
+                raise TableError(f"{path}:{n}: a shape has 3 or 4 columns")
+            name, ret, params = cols[:3]
+            call = cols[3] if len(cols) == 4 and cols[3] else None
+            shapes[name] = (ret, params, call)
+    return shapes
+
+
+class Entry:
+    def __init__(self, name, sub, ret, params, call, impl, checks, doc, src):
+        self.name, self.sub, self.ret = name, sub, ret
+        self.params, self.call, self.impl = params, call, impl
+        self.checks, self.doc, self.src = checks, doc, src
+
+    def declaration(self):
+        args = ", ".join(p.decl for p in self.params) or "void"
+        return f"QVN_API {self.ret} {self.name}({args});"
+
+
+def expand_table(path, sub, shapes):
+    entries, includes, doc = [], [], []
+    with open(path) as f:
+        for n, line in enumerate(f, 1):
+            where = f"{path}:{n}"
+            s = line.strip()
+            if s.startswith("##"):
+                doc.append(s[2:].strip())
+                continue
+            if s.startswith("@include"):
+                includes.append(s.split(None, 1)[1].strip())
+                continue
+            s = s.split("#", 1)[0].strip()
+            if not s:
+                continue
+            cols = [c.strip() for c in s.split("|")]
+            if len(cols) != 8:
+                raise TableError(f"{where}: a row has 8 columns, found {len(cols)}")
+            pattern, tcol, ccol, icol, lcol, shape, checks, impl = cols
+            types = tcol.split() if tcol != "-" else [None]
+            layouts = ccol.split() if ccol != "-" else [None]
+            forms = icol.split()
+            if lcol not in ("L", "-"):
+                raise TableError(f"{where}: the L column is 'L' or '-'")
+            widths = [False, True] if lcol == "L" else [False]
+            row_doc = doc
+            for t in types:
+                for c in layouts:
+                    for form in forms:
+                        inplace = form == "I"
+                        shape_name = shape + (".I" if inplace else "")
+                        if shape_name not in shapes:
+                            raise TableError(f"{where}: no shape {shape_name!r}")
+                        ret, ptext, call = shapes[shape_name]
+                        values = {"C": c or "", "IP": "true" if inplace else "false"}
+                        if t:
+                            s_tok, d_tok = split_type(t)
+                            values.update(T=CTYPES[s_tok], S=CTYPES[s_tok], D=CTYPES[d_tok])
+                        for wide in widths:
+                            values.update(SIZES64 if wide else SIZES32)
+                            name = pattern.replace("{T}", t or "").replace("{C}", c or "")
+                            name = name.replace("{I}", "I" if inplace else "") + ("_L" if wide else "")
+                            if "{" in name:
+                                raise TableError(f"{where}: unexpanded name {name}")
+                            params = [Param(p, values) for p in split_params(ptext)]
+                            callargs = ([a.strip() for a in call.split(",")] if call
+                                        else [p.name for p in params])
+                            shard = split_type(t)[0] if t else "x"
+                            entries.append(Entry(name, sub, subst(ret, values), params, callargs,
+                                                 subst(impl, values), checks, row_doc,
+                                                 (os.path.basename(path), shard)))
+                            row_doc = []
+            doc = []
+    return entries, includes
+
+
+def header_text(sub, entries):
+    guard = f"QVNIP_{sub.upper()}_H"
+    out = [f"/* qvnIP {sub}: exported functions. Generated from api/{sub}*.txt by tools/apigen.py;",
+           " * edit the table, not this file. */",
+           f"#ifndef {guard}", f"#define {guard}", "", '#include "qvnip_types.h"', "",
+           "QVN_BEGIN_DECLS", ""]
+    for e in entries:
+        if e.doc:
+            out.append("")
+            out.append("/* " + "\n * ".join(e.doc) + " */")
+        out.append(e.declaration())
+    out += ["", "QVN_END_DECLS", "", f"#endif /* {guard} */", ""]
+    return "\n".join(out)
+
+
+def wrapper(e):
+    args = ", ".join(p.decl for p in e.params) or "void"
+    call = f"{e.impl}({', '.join(e.call)})"
+    body = f"{call};" if e.ret == "void" else f"return {call};"
+    return (f"QVN_API {e.ret} {e.name}({args}) {{\n"
+            f"    using namespace qvn;\n    using namespace qvn::QVN_TARGET;\n    {body}\n}}\n")
+
+
+GROUP_KIND = {"ptr": "Ptr", "roi": "Roi", "step": "Step", "step0": "Step0"}
+
+
+def case_text(e):
+    ptrs = [p for p in e.params if p.role == "ptr"]
+    steps = [p for p in e.params if p.role == "step"]
+    groups = []
+    for tok in [t.strip() for t in e.checks.split(",")]:
+        m = re.match(r"^ptr\(([\w\s]+)\)$", tok)
+        if m:
+            names = m.group(1).split()
+            idx = [i for i, p in enumerate(ptrs) if p.name in names]
+            if len(idx) != len(names):
+                raise TableError(f"{e.name}: check {tok} names an unknown pointer")
+            groups.append(("Ptr", idx))
+        elif tok == "ptr":
+            groups.append(("Ptr", list(range(len(ptrs)))))
+        elif tok in ("step", "step0"):
+            groups.append((GROUP_KIND[tok], list(range(len(steps)))))
+        elif tok == "roi":
+            groups.append(("Roi", []))
+        # family checks (rounding, order, ...) stop the generic order here
+        else:
+            break
+    args, pi, si = [], 0, 0
+    for p in e.params:
+        if p.role == "ptr":
+            args.append(f"f.ptr<{p.ctype}>({pi})")
+            pi += 1
+        elif p.role == "step":
+            args.append(f"f.step<{p.ctype}>({si})")
+            si += 1
+        elif p.role == "roi":
+            args.append(f"f.roi<{p.ctype}>()")
+        else:
+            args.append(f"{p.ctype}{{}}")
+    gtext = ", ".join(f"{{Check::{k}, {{{', '.join(map(str, idx))}}}}}" for k, idx in groups)
+    return (f'{{"{e.name}", {{{gtext}}}, {len(steps)},\n'
+            f' [](const Faults& f) -> QvnStatus {{ return {e.name}({", ".join(args)}); }}}},\n')
+
+
+def write_if_changed(path, text):
+    try:
+        with open(path) as f:
+            if f.read() == text:
+                return
+    except FileNotFoundError:
+        pass
+    os.makedirs(os.path.dirname(path) or ".", exist_ok=True)
+    with open(path, "w") as f:
+        f.write(text)
+
+
+def main():
+    ap = argparse.ArgumentParser(description=__doc__, formatter_class=argparse.RawDescriptionHelpFormatter)
+    ap.add_argument("--api", required=True, help="folder with shapes.txt and the tables")
+    ap.add_argument("--include", required=True, help="folder of the public headers")
+    ap.add_argument("--out", required=True, help="folder for the generated build files")
+    ap.add_argument("--check", action="store_true", help="fail if a public header is out of date")
+    a = ap.parse_args()
+
+    try:
+        shapes = read_shapes(os.path.join(a.api, "shapes.txt"))
+        tables = sorted(f for f in os.listdir(a.api) if f.endswith(".txt") and f != "shapes.txt")
+        subs, includes, entries = {}, {}, []
+        for t in tables:
+            sub = re.split(r"[-.]", t, 1)[0]
+            got, inc = expand_table(os.path.join(a.api, t), sub, shapes)
+            subs.setdefault(sub, []).extend(got)
+            includes[t] = inc
+            entries += got
+    except TableError as err:
+        sys.exit(f"apigen: {err}")
+
+    seen = set()
+    for e in entries:
+        if e.name in seen:
+            sys.exit(f"apigen: {e.name} is generated twice")
+        seen.add(e.name)
+
+    headers = {f"qvnip_{s}.h": header_text(s, es) for s, es in subs.items()}
+    umbrella = ["/* qvnIP: the umbrella header. Generated by tools/apigen.py. */",
+                "#ifndef QVNIP_H", "#define QVNIP_H", "", '#include "qvnip_types.h"']
+    umbrella += [f'#include "{h}"' for h in sorted(headers)] + ["", "#endif /* QVNIP_H */", ""]
+    headers["qvnip.h"] = "\n".join(umbrella)
+
+    if a.check:
+        stale = []
+        for h, text in headers.items():
+            try:
+                with open(os.path.join(a.include, h)) as f:
+                    if f.read() != text:
+                        stale.append(h)
+            except FileNotFoundError:
+                stale.append(h)
+        if stale:
+            sys.exit("apigen: out of date: " + ", ".join(stale))
+        return
+    for h, text in headers.items():
+        write_if_changed(os.path.join(a.include, h), text)
+
+    shards = {}
+    for e in entries:
+        shards.setdefault((e.sub, e.src[1]), []).append(e)
+    shard_files = []
+    for (sub, tok), es in sorted(shards.items()):
+        incs = []
+        for e in es:
+            for i in includes[e.src[0]]:
+                if i not in incs:
+                    incs.append(i)
+        text = ["// Export wrappers. Generated by tools/apigen.py from api/; do not edit.",
+                '#include "qvnip.h"', '#include "kernels/target.h"']
+        text += [f'#include "{i}"' for i in incs]
+        text += ["", "namespace qvn { namespace QVN_TARGET {} }  // opened even where no family uses it", ""]
+        text += [wrapper(e) for e in es]
+        fname = f"api_{sub}_{tok}.cpp"
+        write_if_changed(os.path.join(a.out, fname), "\n".join(text))
+        shard_files.append(fname)
+
+    names = sorted(e.name for e in entries)
+    write_if_changed(os.path.join(a.out, "api_names.txt"), "".join(n + "\n" for n in names))
+    write_if_changed(os.path.join(a.out, "qvnip.map"),
+                     "{\n  global:\n" + "".join(f"    {n};\n" for n in names) + "  local:\n    *;\n};\n")
+    write_if_changed(os.path.join(a.out, "api_cases.inc"),
+                     "// Generated by tools/apigen.py.\n" +
+                     "".join(case_text(e) for e in entries if e.checks != "-"))
+    write_if_changed(os.path.join(a.out, "shards.txt"), "".join(s + "\n" for s in shard_files))
+
+
+if __name__ == "__main__":
+    main()
