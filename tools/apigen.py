@@ -34,6 +34,8 @@ impl     the C++ callable that implements the name, looked up with the
          {T} {S} {D} expand to C types, {C} to the layout token, {IP} to
          true/false for the in-place form
 
+'@shape name | return | parameters | call' defines a shape next to the rows
+that use it (shapes.txt holds the ones several tables share).
 Lines starting with '##' are documentation: they precede the next row's
 declarations in the header. '@include <path>' names a header that the
 wrappers of this table file need. '#' starts a comment.
@@ -98,19 +100,29 @@ class Param:
             self.role = "value"
 
 
-def read_shapes(path):
+def add_shape(shapes, text, where):
+    cols = [c.strip() for c in text.split("|")]
+    if len(cols) not in (3, 4):
+        raise TableError(f"{where}: a shape has 3 or 4 columns")
+    name, ret, params = cols[:3]
+    if name in shapes:
+        raise TableError(f"{where}: shape {name} is defined twice")
+    call = cols[3] if len(cols) == 4 and cols[3] else None
+    shapes[name] = (ret, params, call)
+
+
+def read_shapes(path, tables):
     shapes = {}
     with open(path) as f:
         for n, line in enumerate(f, 1):
             line = line.split("#", 1)[0].strip()
-            if not line:
-                continue
-            cols = [c.strip() for c in line.split("|")]
-            if len(cols) not in (3, 4):
-                raise TableError(f"{path}:{n}: a shape has 3 or 4 columns")
-            name, ret, params = cols[:3]
-            call = cols[3] if len(cols) == 4 and cols[3] else None
-            shapes[name] = (ret, params, call)
+            if line:
+                add_shape(shapes, line, f"{path}:{n}")
+    for t in tables:
+        with open(t) as f:
+            for n, line in enumerate(f, 1):
+                if line.startswith("@shape"):
+                    add_shape(shapes, line[len("@shape"):].split("#", 1)[0], f"{t}:{n}")
     return shapes
 
 
@@ -133,6 +145,8 @@ def expand_table(path, sub, shapes):
             s = line.strip()
             if s.startswith("##"):
                 doc.append(s[2:].strip())
+                continue
+            if s.startswith("@shape"):
                 continue
             if s.startswith("@include"):
                 includes.append(s.split(None, 1)[1].strip())
@@ -266,8 +280,8 @@ def main():
     a = ap.parse_args()
 
     try:
-        shapes = read_shapes(os.path.join(a.api, "shapes.txt"))
         tables = sorted(f for f in os.listdir(a.api) if f.endswith(".txt") and f != "shapes.txt")
+        shapes = read_shapes(os.path.join(a.api, "shapes.txt"), [os.path.join(a.api, t) for t in tables])
         subs, includes, entries = {}, {}, []
         for t in tables:
             sub = re.split(r"[-.]", t, 1)[0]
