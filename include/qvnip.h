@@ -4,5 +4,6 @@
 
 #include "qvnip_types.h"
 #include "qvnip_core.h"
+#include "qvnip_move.h"
 
 #endif /* QVNIP_H */

@@ -1,0 +1,64 @@
+// Fill rows: a pixel value repeated over a row of interleaved pixels.
+#ifndef QVN_KERNELS_FILL_INL_H
+#define QVN_KERNELS_FILL_INL_H
+
+#include <cstdint>
+
+#include "kernels/isa/sse3.h"
+#include "kernels/store-inl.h"
+
+QVN_TARGET_BEGIN
+namespace kernels {
+
+// Writes n pixels of K elements each, pixel k = px[0..K-1]. When Keep is true
+// the last element of every pixel (alpha) is left as it is.
+//
+// The K-element pattern repeats every 48 bytes for K = 3 and every 16 bytes for
+// K = 1, 2, 4, so the body stores a fixed set of up to three vectors built
+// once per row for the element phase at which the aligned part starts.
+template <class T, int K, bool Keep, class Store>
+inline void fillRow(T* d, std::int64_t n, const T* px) {
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1;  // vectors before the pattern repeats
+    const std::int64_t total = n * K;
+    std::int64_t head = headToAlign16(d, total);
+    if (head < 0) {  // not element-aligned: scalar only (never from our own images)
+        for (std::int64_t i = 0; i < total; ++i)
+            if (!Keep || i % K != K - 1) d[i] = px[i % K];
+        return;
+    }
+    std::int64_t i = 0;
+    for (; i < head; ++i)
+        if (!Keep || i % K != K - 1) d[i] = px[i % K];
+
+    isa::Vec<T> v[kPeriod], keep[kPeriod];
+    for (int k = 0; k < kPeriod; ++k) {
+        alignas(16) T lane[kLanes], mask[kLanes];
+        for (std::int64_t e = 0; e < kLanes; ++e) {
+            const std::int64_t idx = (i + k * kLanes + e) % K;
+            lane[e] = px[idx];
+            // all-ones bytes where the destination element must be kept
+            unsigned char* m = reinterpret_cast<unsigned char*>(&mask[e]);
+            for (std::size_t b = 0; b < sizeof(T); ++b) m[b] = (Keep && idx == K - 1) ? 0xFF : 0;
+        }
+        v[k] = isa::loadA(lane);
+        keep[k] = isa::loadA(mask);
+    }
+    for (; i + kPeriod * kLanes <= total; i += kPeriod * kLanes)
+        for (int k = 0; k < kPeriod; ++k) {
+            T* p = d + i + k * kLanes;
+            if constexpr (Keep) Store::store(p, isa::select(keep[k], isa::loadA(p), v[k]));
+            else Store::store(p, v[k]);
+        }
+    for (int k = 0; i + kLanes <= total; ++k, i += kLanes) {  // whole vectors left in the period
+        if constexpr (Keep) Store::store(d + i, isa::select(keep[k], isa::loadA(d + i), v[k]));
+        else Store::store(d + i, v[k]);
+    }
+    for (; i < total; ++i)
+        if (!Keep || i % K != K - 1) d[i] = px[i % K];
+}
+
+}  // namespace kernels
+QVN_TARGET_END
+
+#endif
