@@ -42,16 +42,23 @@ bool isAmd() {
     return r.ebx == 0x68747541u /* "Auth" */ || r.ebx == 0x6F677948u /* "Hygo" */;
 }
 
-}  // namespace
-
-QVN_API QvnStatus qvnGetMaxCacheSizeB(int* pSize) {
-    if (pSize == nullptr) return qvnErrNullPointer;
+std::uint64_t detectLargestCache() {
     std::uint64_t size = largestFromLeaf(4);
     if (size == 0 && isAmd()) {
         const bool topologyExt = (qvncore::cpuid(0x80000001u).ecx >> 22) & 1;
         if (topologyExt) size = largestFromLeaf(0x8000001Du);
         if (size == 0) size = largestFromAmdLegacy();
     }
+    return size;
+}
+
+}  // namespace
+
+QVN_API QvnStatus qvnGetMaxCacheSizeB(int* pSize) {
+    if (pSize == nullptr) return qvnErrNullPointer;
+    // CPUID can cost a hundred microseconds under a hypervisor, and every large
+    // fill or copy asks: the answer is a constant of the machine, read once.
+    static const std::uint64_t size = detectLargestCache();
     if (size == 0) {
         *pSize = 0;
         return qvnErrBadMode;  // unknown: callers fall back to ordinary stores

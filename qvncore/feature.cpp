@@ -34,8 +34,8 @@ std::uint64_t detectFeatures() {
 }  // namespace
 
 QVN_API int ownGetFeature(Qvn64s mask) {
-    // Answered afresh on each call: CPUID is cheap next to its one caller, and
-    // the library keeps no state between calls.
+    // CPUID is slow under a hypervisor; the features are read once.
+    static const std::uint64_t features = detectFeatures();
     const std::uint64_t want = static_cast<std::uint64_t>(mask);
-    return want != 0 && (detectFeatures() & want) == want;
+    return want != 0 && (features & want) == want;
 }
