@@ -9,6 +9,7 @@
 // report.cpp prints the table.
 #pragma once
 
+#include <algorithm>
 #include <cmath>
 #include <cstdint>
 #include <cstdio>
@@ -25,6 +26,7 @@
 
 #include <opencv2/core.hpp>
 
+#include "qvn_api_names.h"
 #include "qvnip.h"
 
 namespace qbench {
@@ -210,13 +212,20 @@ Other<F> opencv(F fn) { return {Peer::OpenCV, fn}; }
 template <class F>
 Other<F> reference(F fn) { return {Peer::None, fn}; }
 
-// Options of a case beyond its calls.
+// Options of a case beyond its calls, chained: Opts().range(...).tolerance(1e-6).
 struct Opts {
     std::vector<Range> ranges;  // per source; missing ones take the type's default
     double tol = 0;             // relative tolerance of the output check (floats)
-    bool readsDst = false;      // the operation also reads its destination (masked forms)
+    bool readsDst = false;      // the operation also reads its destination (masked, in-place forms)
+    bool inPlace = false;       // bounded by the read-modify-write stream
     // Runs after the random fill of the sources, to give them structure (masks).
     std::function<void(int source, void* img)> shape;
+
+    Opts& range(Range r) { ranges.push_back(r); return *this; }
+    Opts& tolerance(double t) { tol = t; return *this; }
+    Opts& readsDestination() { readsDst = true; return *this; }
+    Opts& inPlaceStream() { readsDst = inPlace = true; return *this; }
+    Opts& shaped(std::function<void(int, void*)> f) { shape = std::move(f); return *this; }
 };
 
 // The images of a case: sources, our destinations and the other side's.
@@ -252,6 +261,7 @@ std::pair<Peer, Factory> images(std::vector<int> srcCh, std::vector<int> dstCh, 
             c->bytes += double(io->dst.back().bytes()) * (opts.readsDst ? 2 : 1);
         }
         c->pixels = double(z.w) * z.h;
+        c->inPlace = opts.inPlace;
         c->ours = [io, ours] { ours(io->src, io->dst); };
         if (peer != Peer::None) c->peer = [io, fn = other.fn] { fn(io->src, io->want); };
         c->check = [io, ours, fn = other.fn, tol = opts.tol]() -> std::string {
@@ -293,6 +303,17 @@ void forEachElem(Image<D>& d, F f) {
         D* row = d.row(y);
         for (std::size_t i = 0; i < d.rowElems(); ++i) row[i] = f(y, i);
     }
+}
+
+// A mask that is 255 inside a centred disk and 0 outside: whole rows of
+// zeros and of ones with mixed spans at the rim, as real masks have.
+inline void diskMask(Image<Qvn8u>& m) {
+    const double cx = m.width() / 2.0, cy = m.height() / 2.0, r = 0.4 * std::min(m.width(), m.height());
+    for (int y = 0; y < m.height(); ++y)
+        for (int x = 0; x < m.width(); ++x) {
+            const double dx = x - cx, dy = y - cy;
+            m.row(y)[x] = dx * dx + dy * dy <= r * r ? 255 : 0;
+        }
 }
 
 }  // namespace qbench
