@@ -32,8 +32,8 @@ std::string jsonStr(const std::string& s) {
     std::string o = "\"";
     for (char c : s) {
         if (c == '"' || c == '\\') o += '\\';
-        if (static_cast<unsigned char>(c) < 0x20) c = ' ';
-        o += c;
+        if (c == '\n') o += "\\n";
+        else o += static_cast<unsigned char>(c) < 0x20 ? ' ' : c;
     }
     return o + "\"";
 }
