@@ -19,6 +19,8 @@
 #include <map>
 #include <sstream>
 
+#include <unistd.h>
+
 #include <opencv2/core/utility.hpp>
 
 #include "bandwidth.h"
@@ -55,7 +57,9 @@ public:
         if (key != key_ || !entry_.c) {
             entry_ = {};
             key_ = key;
-            std::fprintf(stderr, "  %s %s\n", registry()[op].name.c_str(), sizeName(kSizes[size]).c_str());
+            // Progress on a terminal only, on one line; logs stay clean.
+            if (isatty(2))
+                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(kSizes[size])).c_str());
             entry_.c = registry()[op].make(kSizes[size]);
             entry_.error = entry_.c->check();
             facts_[key] = {entry_.c->bytes, entry_.c->inPlace};
@@ -217,8 +221,10 @@ int main(int argc, char** argv) {
         add("bandwidth/rmw/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, true); });
     }
     const std::vector<OpDef>& ops = registry();
+    std::size_t selected = 0;
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
+        ++selected;
         for (std::size_t z = 0; z < std::size(kSizes); ++z) {
             add(benchName(ops[o], kSizes[z], Side::Ours), s,
                 [o, z](benchmark::State& t) { runCase(t, o, z, Side::Ours); });
@@ -228,11 +234,12 @@ int main(int argc, char** argv) {
         }
     }
 
-    std::fprintf(stderr, "measuring bandwidth and %zu operations at %zu sizes (%s)\n", ops.size(),
+    std::fprintf(stderr, "measuring bandwidth and %zu operations at %zu sizes (%s)\n", selected,
                  std::size(kSizes), s.quick ? "quick" : "full");
     benchmark::ConsoleReporter console;
     Collector collector(s.raw ? &console : nullptr);
     benchmark::RunSpecifiedBenchmarks(&collector);
+    if (isatty(2)) std::fprintf(stderr, "\r%50s\r", "");
 
     Report r;
     const QvnVersionInfo* v = qvniGetLibVersion();
