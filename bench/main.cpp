@@ -8,6 +8,8 @@
 // --raw      also print Google Benchmark's own per-case lines
 // --json     write the table as JSON, for bench/compare.py
 // --filter   only operations whose name contains TEXT
+// --check    time nothing: run every case's output check at a few sizes
+//            (odd ones included) and report the failures
 // Other arguments go to Google Benchmark unchanged.
 #include <benchmark/benchmark.h>
 
@@ -37,7 +39,7 @@ std::vector<OpDef>& registry() {
 namespace {
 
 struct Settings {
-    bool quick = false, raw = false;
+    bool quick = false, raw = false, checkOnly = false;
     std::string json, filter;
     double minTime() const { return quick ? 0.03 : 0.25; }
     int repetitions() const { return quick ? 3 : 5; }
@@ -187,12 +189,33 @@ Settings parseArgs(int& argc, char** argv) {
         const std::string a = argv[i];
         if (a == "--quick") s.quick = true;
         else if (a == "--raw") s.raw = true;
+        else if (a == "--check") s.checkOnly = true;
         else if (a == "--json" && i + 1 < argc) s.json = argv[++i];
         else if (a == "--filter" && i + 1 < argc) s.filter = argv[++i];
         else argv[out++] = argv[i];
     }
     argc = out;
     return s;
+}
+
+// Every case's output check at sizes that exercise row ends and steps, the
+// two timed sizes excepted (the timed run checks those itself).
+int checkAll(const Settings& s) {
+    static const Size sizes[] = {{1, 1}, {37, 5}, {130, 17}};
+    int failures = 0, cases = 0;
+    for (const OpDef& op : registry()) {
+        if (op.name.find(s.filter) == std::string::npos) continue;
+        for (Size z : sizes) {
+            ++cases;
+            const std::string error = op.make(z)->check();
+            if (!error.empty()) {
+                std::printf("%s %s: %s\n", op.name.c_str(), sizeName(z).c_str(), error.c_str());
+                ++failures;
+            }
+        }
+    }
+    std::printf("%d passed, %d failed\n", cases - failures, failures);
+    return failures ? 1 : 0;
 }
 
 template <class Fn>
@@ -215,6 +238,7 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     // This library starts no threads; the peer runs on one thread as well.
     cv::setNumThreads(1);
+    if (s.checkOnly) return checkAll(s);
 
     for (const Stream& st : streams()) {
         add("bandwidth/copy/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, false); });
