@@ -1,0 +1,68 @@
+// Type conversions: qvniConvert against cv::Mat::convertTo, which saturates
+// and rounds halves to even as qvnRndNear does.
+#include "bench.h"
+
+namespace qbench {
+namespace {
+
+template <class S, class D>
+using Fn = QvnStatus (*)(const S*, int, D*, int, QvnRoiSize);
+template <class S, class D>
+using RndFn = QvnStatus (*)(const S*, int, D*, int, QvnRoiSize, QvnRounding);
+
+// A widening or saturating conversion without arguments of its own.
+template <class S, class D>
+[[maybe_unused]] std::pair<Peer, Factory> plain(int ch, Fn<S, D> f, Opts o = {}) {
+    return unary<S, D>(ch, ch, [f](const Image<S>& s, Image<D>& d) { return f(s.p(), s.step(), d.p(), d.step(), s.roi()); },
+                       opencv([](const Image<S>& s, Image<D>& d) { s.mat().convertTo(d.mat(), cv::DataType<D>::depth); }),
+                       o);
+}
+
+// A narrowing conversion from 32f with rounding to nearest, halves to even.
+template <class D>
+[[maybe_unused]] std::pair<Peer, Factory> nearest(int ch, RndFn<Qvn32f, D> f, Range r) {
+    return unary<Qvn32f, D>(
+        ch, ch, [f](const Image<Qvn32f>& s, Image<D>& d) { return f(s.p(), s.step(), d.p(), d.step(), s.roi(), qvnRndNear); },
+        opencv([](const Image<Qvn32f>& s, Image<D>& d) { s.mat().convertTo(d.mat(), cv::DataType<D>::depth); }),
+        Opts().range(r));
+}
+
+#ifdef QVN_HAS_qvniConvert_8u32f_C1R
+QB_REGISTER("Convert_8u32f_C1R", plain<Qvn8u, Qvn32f>(1, qvniConvert_8u32f_C1R));
+#endif
+#ifdef QVN_HAS_qvniConvert_8u32f_C3R
+QB_REGISTER("Convert_8u32f_C3R", plain<Qvn8u, Qvn32f>(3, qvniConvert_8u32f_C3R));
+#endif
+#ifdef QVN_HAS_qvniConvert_8u16s_C1R
+QB_REGISTER("Convert_8u16s_C1R", plain<Qvn8u, Qvn16s>(1, qvniConvert_8u16s_C1R));
+#endif
+#ifdef QVN_HAS_qvniConvert_16s32f_C1R
+QB_REGISTER("Convert_16s32f_C1R", plain<Qvn16s, Qvn32f>(1, qvniConvert_16s32f_C1R));
+#endif
+#ifdef QVN_HAS_qvniConvert_16u8u_C1R
+QB_REGISTER("Convert_16u8u_C1R", plain<Qvn16u, Qvn8u>(1, qvniConvert_16u8u_C1R, Opts().range({0, 400, 1})));
+#endif
+#ifdef QVN_HAS_qvniConvert_16s8u_C1R
+QB_REGISTER("Convert_16s8u_C1R", plain<Qvn16s, Qvn8u>(1, qvniConvert_16s8u_C1R, Opts().range({-200, 400, 1})));
+#endif
+#ifdef QVN_HAS_qvniConvert_32f8u_C1R
+QB_REGISTER("Convert_32f8u_C1R", nearest<Qvn8u>(1, qvniConvert_32f8u_C1R, {-20, 280, 0.25}));
+#endif
+#ifdef QVN_HAS_qvniConvert_32f8u_C3R
+QB_REGISTER("Convert_32f8u_C3R", nearest<Qvn8u>(3, qvniConvert_32f8u_C3R, {-20, 280, 0.25}));
+#endif
+#ifdef QVN_HAS_qvniConvert_32f16s_C1R
+QB_REGISTER("Convert_32f16s_C1R", nearest<Qvn16s>(1, qvniConvert_32f16s_C1R, {-40000, 40000, 0.25}));
+#endif
+
+// Rounding toward zero has no peer of the same result: truncate, then saturate.
+#ifdef QVN_HAS_qvniConvert_32f8u_C1R
+QB_REGISTER("Convert_32f8u_C1R_zero", unary<Qvn32f, Qvn8u>(1, 1, [](const Image<Qvn32f>& s, Image<Qvn8u>& d) {
+    return qvniConvert_32f8u_C1R(s.p(), s.step(), d.p(), d.step(), s.roi(), qvnRndZero);
+}, reference([](const Image<Qvn32f>& s, Image<Qvn8u>& d) {
+    forEachElem(d, [&](int y, std::size_t i) { return Qvn8u(std::clamp(std::trunc(s.row(y)[i]), 0.0f, 255.0f)); });
+}), Opts().range({-20, 280, 0.25})));
+#endif
+
+}  // namespace
+}  // namespace qbench
