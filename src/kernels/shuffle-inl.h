@@ -85,6 +85,50 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
     for (; x < n; ++x) pixel(x);
 }
 
+// Reorders the channels of pixels of K elements into another image (not in
+// place): element i of the destination is source element i + from[c] - c, c
+// being i's channel. Each distinct offset from[c] - c is one unaligned load
+// of the source row masked to the lanes that use it, so the body costs a few
+// loads and logic operations per vector whatever the order. Channels in
+// map.keep are left as they are.
+template <class T, int K>
+inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>& map) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1;
+    const std::int64_t total = n * K;
+    const auto one = [&](std::int64_t i) {
+        const int c = int(i % K);
+        if (!((map.keep >> c) & 1u)) d[i] = s[i - c + map.from[c]];
+    };
+    // vector body only where every offset load stays inside the row
+    std::int64_t i = headToAlign16(d, total);
+    if (i < 0) i = total;
+    if (i < K) i += (K - i + kLanes - 1) / kLanes * kLanes;  // whole vectors keep the alignment
+    const std::int64_t end = total - K;
+    for (std::int64_t h = 0; h < i && h < total; ++h) one(h);
+    if (i + kLanes <= end) {
+        int offsets[2 * K - 1], count = 0;
+        V lanes[2 * K - 1][3], keep[3];
+        for (int off = -(K - 1); off <= K - 1; ++off) {
+            unsigned chans = 0;
+            for (int c = 0; c < K; ++c)
+                if (!((map.keep >> c) & 1u) && map.from[c] - c == off) chans |= 1u << c;
+            if (!chans) continue;
+            channelLanes<T, K>(i, chans, lanes[count]);
+            offsets[count++] = off;
+        }
+        channelLanes<T, K>(i, map.keep, keep);
+        for (int k = 0; i + kLanes <= end; i += kLanes, k = k + 1 == kPeriod ? 0 : k + 1) {
+            V v = map.keep ? isa::bitAnd(keep[k], isa::loadA(d + i)) : isa::zero<T>();
+            for (int j = 0; j < count; ++j)
+                v = isa::bitOr(v, isa::bitAnd(lanes[j][k], isa::loadU(s + i + offsets[j])));
+            isa::storeA(d + i, v);
+        }
+    }
+    for (; i < total; ++i) one(i);
+}
+
 // Elements before every pointer of ps reaches 16-byte alignment at the same
 // element, at most n; -1 when they never do together.
 template <class T, int K>

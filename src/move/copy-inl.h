@@ -97,6 +97,16 @@ inline QvnStatus copyChannel(const T* src, S srcStep, T* dst, S dstStep, RoiL ro
 template <class T, int KS, int KD, class S>
 inline QvnStatus shuffle(const T* src, S srcStep, T* dst, S dstStep, RoiL roi,
                          const kernels::PixelMap<T, KS, KD>& map) {
+    // Three-element pixels reorder fastest by offset loads (the planes route
+    // needs the costly three-way interleave); four-element ones by planes.
+    if constexpr (KS == 3 && KD == 3) {
+        bool sourceOnly = src != dst;  // offset loads would read what the row already wrote
+        for (int c = 0; c < KD; ++c) sourceOnly &= map.from[c] < KS;
+        if (sourceOnly)
+            return forEachRow(
+                roi, [&](const T* s, T* d, std::int64_t n) { kernels::permuteRow<T, KS>(s, d, n, map); },
+                rows(src, srcStep, KS), rows(dst, dstStep, KD));
+    }
     return forEachRow(
         roi, [&](const T* s, T* d, std::int64_t n) { kernels::shuffleRow<T, KS, KD>(s, d, n, map); },
         rows(src, srcStep, KS), rows(dst, dstStep, KD));

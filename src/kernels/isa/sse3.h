@@ -427,10 +427,20 @@ inline Vec<T> unzipOdd(Vec<T> a, Vec<T> b) {
             _mm_shuffle_ps(_mm_castsi128_ps(bits(a)), _mm_castsi128_ps(bits(b)), 0xDD)));
     }
 }
-// Low 8 bytes of a, high 8 bytes of b.
+// Even-indexed lanes of a, then odd-indexed lanes of b.
 template <class T>
-inline Vec<T> lowHigh(Vec<T> a, Vec<T> b) {
-    return fromBits<T>(_mm_castpd_si128(_mm_move_sd(_mm_castsi128_pd(bits(b)), _mm_castsi128_pd(bits(a)))));
+inline Vec<T> unzipEvenOdd(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) {
+        return fromBits<T>(_mm_packus_epi16(_mm_and_si128(bits(a), _mm_set1_epi16(0x00FF)),
+                                            _mm_srli_epi16(bits(b), 8)));
+    } else if constexpr (sizeof(T) == 2) {
+        return fromBits<T>(_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(bits(a), 16), 16),
+                                           _mm_srai_epi32(bits(b), 16)));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_castps_si128(
+            _mm_shuffle_ps(_mm_castsi128_ps(bits(a)), _mm_castsi128_ps(bits(b)), 0xD8)));
+    }
 }
 
 // Three planes to three interleaved vectors: log2(L) rounds of the inverse
@@ -440,7 +450,7 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
     Vec<T> x = in[0], y = in[1], z = in[2];
     for (std::size_t n = kLanes<T>; n > 1; n /= 2) {
         const Vec<T> a = unzipEven(x, y), c = unzipOdd(y, z);
-        const Vec<T> b = lowHigh(unzipEven(z, z), unzipOdd(x, x));
+        const Vec<T> b = unzipEvenOdd(z, x);
         x = a, y = b, z = c;
     }
     out[0] = x, out[1] = y, out[2] = z;
