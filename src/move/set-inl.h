@@ -54,10 +54,12 @@ template <class T, class L, class S>
 inline QvnStatus setMasked(const T* value, T* dst, S dstStep, RoiL roi, const Qvn8u* mask, S maskStep) {
     QVN_TRY(check::ptrs(value, dst, mask));
     QVN_TRY(check::roi(roi));
+    T px[4] = {};  // AC4 gives three values: the pattern's alpha lanes are never stored
+    for (int c = 0; c < L::kChannels; ++c) px[c] = value[c];
     return forEachRow(
         roi,
         [&](T* d, const Qvn8u* m, std::int64_t n) {
-            kernels::maskedRow<T, L::kElems, L::kAlpha>(kernels::FromPixel<T, L::kElems>{value, {}}, d, m, n);
+            kernels::maskedRow<T, L::kElems, L::kAlpha>(kernels::FromPixel<T, L::kElems>{px, {}}, d, m, n);
         },
         rows(dst, dstStep, L::kElems), rows(mask, maskStep, 1));
 }
