@@ -8,6 +8,7 @@
 #include "core/check-inl.h"
 #include "core/rows-inl.h"
 #include "core/stream-inl.h"
+#include "kernels/copy-inl.h"
 #include "kernels/fill-inl.h"
 
 QVN_TARGET_BEGIN
@@ -46,6 +47,37 @@ inline QvnStatus set(const T* value, T* dst, S dstStep, RoiL roi) {
     QVN_TRY(check::ptrs(value, dst));
     QVN_TRY(check::roi(roi));
     return fill<T, L>(value, dst, dstStep, roi);
+}
+
+// Masked fill: pixels whose mask element is non-zero take the value.
+template <class T, class L, class S>
+inline QvnStatus setMasked(const T* value, T* dst, S dstStep, RoiL roi, const Qvn8u* mask, S maskStep) {
+    QVN_TRY(check::ptrs(value, dst, mask));
+    QVN_TRY(check::roi(roi));
+    T px[4] = {};  // AC4 gives three values: the pattern's alpha lanes are never stored
+    for (int c = 0; c < L::kChannels; ++c) px[c] = value[c];
+    return forEachRow(
+        roi,
+        [&](T* d, const Qvn8u* m, std::int64_t n) {
+            kernels::maskedRow<T, L::kElems, L::kAlpha>(kernels::FromPixel<T, L::kElems>{px, {}}, d, m, n);
+        },
+        rows(dst, dstStep, L::kElems), rows(mask, maskStep, 1));
+}
+
+// C3CR, C4CR: the value into the channel the pointer addresses, the other
+// channels unchanged.
+template <class T, class L, class S>
+inline QvnStatus setChannel(const T* value, T* dst, S dstStep, RoiL roi) {
+    QVN_TRY(check::ptrs(value, dst));
+    QVN_TRY(check::roi(roi));
+    const T px[4] = {*value, *value, *value, *value};
+    return forEachRow(
+        roi,
+        [&](T* d, std::int64_t n) {
+            kernels::blendRow<T, L::kElems, 0x1>(kernels::FromPixel<T, L::kElems>{px, {}}, d,
+                                                     (n - 1) * L::kElems + 1);
+        },
+        rows(dst, dstStep, L::kElems));
 }
 
 }  // namespace move

@@ -358,6 +358,104 @@ inline unsigned getControl() {
 inline void setControl(unsigned csr) { __asm__ volatile("ldmxcsr %0" : : "m"(csr) : "memory"); }
 inline unsigned withRounding(unsigned csr, unsigned mode) { return (csr & ~0x6000u) | mode; }
 
+// ---- channel shuffles (copy, set, duplicate and swap family) -----------------------
+// Built from interleaving steps only (SSE2 has no byte shuffle). With L lanes
+// per vector, K interleaved channels span K vectors: L pixels.
+
+// Four interleaved vectors to four planes: log2(L) rounds of the same
+// pairing of zips.
+template <class T>
+inline void deinterleave4(const Vec<T> in[4], Vec<T> out[4]) {
+    Vec<T> a = in[0], b = in[1], c = in[2], d = in[3];
+    for (std::size_t n = kLanes<T>; n > 1; n /= 2) {
+        const Vec<T> a2 = zipLo(a, c), b2 = zipHi(a, c), c2 = zipLo(b, d), d2 = zipHi(b, d);
+        a = a2, b = b2, c = c2, d = d2;
+    }
+    out[0] = a, out[1] = b, out[2] = c, out[3] = d;
+}
+
+// Four planes to four interleaved vectors: two rounds of that pairing,
+// whatever the lane count.
+template <class T>
+inline void interleave4(const Vec<T> in[4], Vec<T> out[4]) {
+    Vec<T> a = in[0], b = in[1], c = in[2], d = in[3];
+    for (int r = 0; r < 2; ++r) {
+        const Vec<T> a2 = zipLo(a, c), b2 = zipHi(a, c), c2 = zipLo(b, d), d2 = zipHi(b, d);
+        a = a2, b = b2, c = c2, d = d2;
+    }
+    out[0] = a, out[1] = b, out[2] = c, out[3] = d;
+}
+
+// Three interleaved vectors to three planes: log2(L) rounds that zip the
+// halves (a.lo, b.hi), (a.hi, c.lo), (b.lo, c.hi).
+template <class T>
+inline void deinterleave3(const Vec<T> in[3], Vec<T> out[3]) {
+    Vec<T> a = in[0], b = in[1], c = in[2];
+    for (std::size_t n = kLanes<T>; n > 1; n /= 2) {
+        const Vec<T> a2 = zipLo(a, bytesRight<8>(b)), b2 = zipHi(a, bytesLeft<8>(c)),
+                     c2 = zipLo(b, bytesRight<8>(c));
+        a = a2, b = b2, c = c2;
+    }
+    out[0] = a, out[1] = b, out[2] = c;
+}
+
+// Even-indexed and odd-indexed lanes of a then b (the inverse of a zip).
+template <class T>
+inline Vec<T> unzipEven(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) {
+        const __m128i lo = _mm_set1_epi16(0x00FF);
+        return fromBits<T>(_mm_packus_epi16(_mm_and_si128(bits(a), lo), _mm_and_si128(bits(b), lo)));
+    } else if constexpr (sizeof(T) == 2) {
+        // sign-extend the low halves so the signed pack is exact
+        return fromBits<T>(_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(bits(a), 16), 16),
+                                           _mm_srai_epi32(_mm_slli_epi32(bits(b), 16), 16)));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_castps_si128(
+            _mm_shuffle_ps(_mm_castsi128_ps(bits(a)), _mm_castsi128_ps(bits(b)), 0x88)));
+    }
+}
+template <class T>
+inline Vec<T> unzipOdd(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) {
+        return fromBits<T>(_mm_packus_epi16(_mm_srli_epi16(bits(a), 8), _mm_srli_epi16(bits(b), 8)));
+    } else if constexpr (sizeof(T) == 2) {
+        return fromBits<T>(_mm_packs_epi32(_mm_srai_epi32(bits(a), 16), _mm_srai_epi32(bits(b), 16)));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_castps_si128(
+            _mm_shuffle_ps(_mm_castsi128_ps(bits(a)), _mm_castsi128_ps(bits(b)), 0xDD)));
+    }
+}
+// Even-indexed lanes of a, then odd-indexed lanes of b.
+template <class T>
+inline Vec<T> unzipEvenOdd(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) {
+        return fromBits<T>(_mm_packus_epi16(_mm_and_si128(bits(a), _mm_set1_epi16(0x00FF)),
+                                            _mm_srli_epi16(bits(b), 8)));
+    } else if constexpr (sizeof(T) == 2) {
+        return fromBits<T>(_mm_packs_epi32(_mm_srai_epi32(_mm_slli_epi32(bits(a), 16), 16),
+                                           _mm_srai_epi32(bits(b), 16)));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_castps_si128(
+            _mm_shuffle_ps(_mm_castsi128_ps(bits(a)), _mm_castsi128_ps(bits(b)), 0xD8)));
+    }
+}
+
+// Three planes to three interleaved vectors: log2(L) rounds of the inverse
+// of deinterleave3's step.
+template <class T>
+inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
+    Vec<T> x = in[0], y = in[1], z = in[2];
+    for (std::size_t n = kLanes<T>; n > 1; n /= 2) {
+        const Vec<T> a = unzipEven(x, y), c = unzipOdd(y, z);
+        const Vec<T> b = unzipEvenOdd(z, x);
+        x = a, y = b, z = c;
+    }
+    out[0] = x, out[1] = y, out[2] = z;
+}
+
 }  // namespace isa
 QVN_TARGET_END
 

@@ -1,0 +1,186 @@
+// Copy rows: whole rows as bytes, rows that write only some channels of each
+// pixel, and rows under an 8u mask.
+#ifndef QVN_KERNELS_COPY_INL_H
+#define QVN_KERNELS_COPY_INL_H
+
+#include <cstdint>
+#include <cstring>
+
+#include "kernels/isa/sse3.h"
+#include "kernels/store-inl.h"
+
+QVN_TARGET_BEGIN
+namespace kernels {
+
+// Fewer than 16 bytes, in pieces of 8, 4, 2 and 1.
+inline void copyTail(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    if (n & 8) std::memcpy(d, s, 8), s += 8, d += 8;
+    if (n & 4) std::memcpy(d, s, 4), s += 4, d += 4;
+    if (n & 2) std::memcpy(d, s, 2), s += 2, d += 2;
+    if (n & 1) *d = *s;
+}
+
+// Copies n bytes: a head up to the first 16-byte aligned destination byte,
+// then four vectors per step, then one, then the tail. Every element type
+// copies through this one kernel.
+template <class Store>
+inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    using V = isa::Vec<std::uint8_t>;
+    std::int64_t i = headToAlign16(d, n);
+    copyTail(s, d, i);
+    for (; i + 64 <= n; i += 64) {
+        const V a = isa::loadU(s + i), b = isa::loadU(s + i + 16), c = isa::loadU(s + i + 32),
+                e = isa::loadU(s + i + 48);
+        Store::store(d + i, a);
+        Store::store(d + i + 16, b);
+        Store::store(d + i + 32, c);
+        Store::store(d + i + 48, e);
+    }
+    for (; i + 16 <= n; i += 16) Store::store(d + i, isa::loadU(s + i));
+    copyTail(s + i, d + i, n - i);
+}
+
+// Element sources of the rows below: another image's row, or a repeated
+// pixel value. vec(i, k) is the vector of elements i.. of the row, k its index
+// in the pixel pattern's period (three vectors for three-element pixels, one
+// otherwise) counted from the element that prepare() was given.
+template <class T>
+struct FromRow {
+    const T* s;
+    void prepare(std::int64_t) {}
+    T at(std::int64_t i) const { return s[i]; }
+    isa::Vec<T> vec(std::int64_t i, int) const { return isa::loadU(s + i); }
+};
+
+template <class T, int K>
+struct FromPixel {
+    const T* px;  // K elements
+    isa::Vec<T> v[3];
+    void prepare(std::int64_t first) {
+        constexpr std::int64_t kLanes = isa::kLanes<T>;
+        for (int k = 0; k < (K == 3 ? 3 : 1); ++k) {
+            alignas(16) T lane[kLanes];
+            for (std::int64_t e = 0; e < kLanes; ++e) lane[e] = px[(first + k * kLanes + e) % K];
+            v[k] = isa::loadA(lane);
+        }
+    }
+    T at(std::int64_t i) const { return px[i % K]; }
+    isa::Vec<T> vec(std::int64_t, int k) const { return v[k]; }
+};
+
+// All-ones lanes for the elements whose channel (element index mod K, counted
+// from first) is in the bit set chans; three vectors of period for K = 3, one
+// otherwise.
+template <class T, int K>
+inline void channelLanes(std::int64_t first, unsigned chans, isa::Vec<T> out[3]) {
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    for (int k = 0; k < (K == 3 ? 3 : 1); ++k) {
+        alignas(16) unsigned char b[16];
+        for (std::int64_t e = 0; e < kLanes; ++e)
+            std::memset(b + e * sizeof(T), (chans >> ((first + k * kLanes + e) % K)) & 1u ? 0xFF : 0,
+                        sizeof(T));
+        out[k] = isa::cast<T>(isa::loadA(b));
+    }
+}
+
+// Writes the elements of d[0..total) whose channel (index mod K) is in the bit
+// set Write from src; the other elements keep their values. The body blends
+// each aligned vector with the destination's own contents. total need not be
+// a whole number of pixels: a row addressed at one channel of its first pixel
+// ends at that channel of its last pixel.
+template <class T, int K, unsigned Write, class Src>
+inline void blendRow(Src src, T* d, std::int64_t total) {
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1;
+    const auto one = [&](std::int64_t i) {
+        if ((Write >> (i % K)) & 1u) d[i] = src.at(i);
+    };
+    std::int64_t head = headToAlign16(d, total);
+    if (head < 0) head = total;  // not element-aligned: scalar only
+    std::int64_t i = 0;
+    for (; i < head; ++i) one(i);
+    if (i + kLanes <= total) {
+        isa::Vec<T> write[3];
+        channelLanes<T, K>(i, Write, write);
+        src.prepare(i);
+        for (int k = 0; i + kLanes <= total; i += kLanes, k = k + 1 == kPeriod ? 0 : k + 1)
+            isa::storeA(d + i, isa::select(write[k], src.vec(i, k), isa::loadA(d + i)));
+    }
+    for (; i < total; ++i) one(i);
+}
+
+// Masks of Factor vectors whose lanes repeat each byte lane of m Factor times
+// (Factor a power of two up to 16), so lane j of vector v follows byte
+// (v * 16 + j) / Factor of m.
+template <int Factor>
+inline void spreadMask(isa::Vec<std::uint8_t> m, isa::Vec<std::uint8_t> out[Factor]) {
+    if constexpr (Factor == 1) {
+        out[0] = m;
+    } else {
+        isa::Vec<std::uint8_t> half[Factor / 2];
+        spreadMask<Factor / 2>(m, half);
+        for (int k = 0; k < Factor / 2; ++k) {
+            out[2 * k] = isa::zipLo(half[k], half[k]);
+            out[2 * k + 1] = isa::zipHi(half[k], half[k]);
+        }
+    }
+}
+
+// Masked row: pixel x of n (K elements each) takes its channels from src where
+// mask[x] is non-zero and keeps them where it is zero; with Keep the last
+// channel (alpha) is never written. The mask is read in blocks of sixteen: an
+// all-zero block writes nothing, an all-set block is written whole, a mixed
+// block blends per element; the last pixels of the row go one by one.
+template <class T, int K, bool Keep, class Src>
+inline void maskedRow(Src src, T* d, const std::uint8_t* m, std::int64_t n) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1;
+    constexpr int kVecs = K * int(sizeof(T));       // vectors per block of 16 pixels
+    constexpr bool kSpread = (kVecs & (kVecs - 1)) == 0;  // byte mask spreads by zips
+    constexpr unsigned kWrite = Keep ? (1u << (K - 1)) - 1 : (1u << K) - 1;
+    const auto pixel = [&](std::int64_t x) {
+        if (m[x] == 0) return;
+        for (int c = 0; c < K; ++c)
+            if ((kWrite >> c) & 1u) d[x * K + c] = src.at(x * K + c);
+    };
+    std::int64_t x = 0;
+    if (n >= 16) {
+        src.prepare(0);
+        V write[3];
+        channelLanes<T, K>(0, kWrite, write);
+        const isa::Vec<std::uint8_t> zero = isa::zero<std::uint8_t>();
+        for (; x + 16 <= n; x += 16) {
+            const isa::Vec<std::uint8_t> isZero = isa::cmpEq(isa::loadU(m + x), zero);
+            const int bits = isa::moveMask8(isZero);
+            if (bits == 0xFFFF) continue;
+            const std::int64_t e0 = x * K;
+            if (bits == 0) {
+                for (int j = 0; j < kVecs; ++j) {
+                    T* p = d + e0 + j * kLanes;
+                    V v = src.vec(e0 + j * kLanes, j % kPeriod);
+                    if constexpr (Keep) v = isa::select(write[0], v, isa::loadU(p));
+                    isa::storeU(p, v);
+                }
+            } else if constexpr (kSpread) {
+                isa::Vec<std::uint8_t> spread[kVecs];  // all ones where the pixel's mask is 0
+                spreadMask<kVecs>(isZero, spread);
+                for (int j = 0; j < kVecs; ++j) {
+                    T* p = d + e0 + j * kLanes;
+                    const V old = isa::loadU(p);
+                    V v = isa::select(isa::cast<T>(spread[j]), old, src.vec(e0 + j * kLanes, 0));
+                    if constexpr (Keep) v = isa::select(write[0], v, old);
+                    isa::storeU(p, v);
+                }
+            } else {
+                for (std::int64_t k = 0; k < 16; ++k) pixel(x + k);
+            }
+        }
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
+}  // namespace kernels
+QVN_TARGET_END
+
+#endif

@@ -1,0 +1,210 @@
+// qvniCopy, qvniCopyManaged, qvniDup and the masked and one-channel qvniSet
+// forms against the channel-map model, on guarded images.
+#include <gtest/gtest.h>
+
+#include <memory>
+#include <vector>
+
+#include "qvnip.h"
+#include "support/cache_double.h"
+#include "support/move_sweep.h"
+
+namespace qvn::test {
+namespace {
+
+using ref::ChannelMap;
+constexpr int kKeep = ChannelMap::kKeep, kFill = ChannelMap::kFill;
+
+ChannelMap map(int srcElems, int dstElems, std::initializer_list<int> from, std::initializer_list<double> fill = {}) {
+    ChannelMap m;
+    m.srcElems = srcElems, m.dstElems = dstElems;
+    int i = 0;
+    for (int f : from) m.from[i++] = f;
+    i = 0;
+    for (double v : fill) m.fill[i++] = v;
+    return m;
+}
+
+TEST(Copy, WholePixelsAndLongForms) {
+#define X(t, T)                                                                                        \
+    sweepMove<T>({"Copy_" #t "_C1R", map(1, 1, {0})}, QVN_FN(T, qvniCopy_##t##_C1R(s, int(ss), d, int(ds), r))); \
+    sweepMove<T>({"Copy_" #t "_C3R", map(3, 3, {0, 1, 2})},                                            \
+                 QVN_FN(T, qvniCopy_##t##_C3R(s, int(ss), d, int(ds), r)));                             \
+    sweepMove<T>({"Copy_" #t "_C4R_L", map(4, 4, {0, 1, 2, 3})},                                        \
+                 QVN_FN(T, qvniCopy_##t##_C4R_L(s, ss, d, ds, QvnRoiSizeL{r.width, r.height})));        \
+    sweepMove<T>({"Copy_" #t "_AC4R", map(4, 4, {0, 1, 2, kKeep})},                                    \
+                 QVN_FN(T, qvniCopy_##t##_AC4R(s, int(ss), d, int(ds), r)));
+    QVN_EACH_TYPE(X)
+#undef X
+    sweepMove<Qvn8u>({"CopyManaged_8u_C1R flags 0", map(1, 1, {0})},
+                     QVN_FN(Qvn8u, qvniCopyManaged_8u_C1R(s, int(ss), d, int(ds), r, 0)));
+    sweepMove<Qvn8u>({"CopyManaged_8u_C1R flags 2", map(1, 1, {0})},
+                     QVN_FN(Qvn8u, qvniCopyManaged_8u_C1R(s, int(ss), d, int(ds), r, 2)));
+}
+
+TEST(Copy, MaskedFormsWriteOnlyWhereTheMaskIsSet) {
+#define X(t, T)                                                                                        \
+    sweepMove<T>({"Copy_" #t "_C1MR", map(1, 1, {0}), 0, 0, true},                                    \
+                 QVN_FN(T, qvniCopy_##t##_C1MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
+    sweepMove<T>({"Copy_" #t "_C3MR", map(3, 3, {0, 1, 2}), 0, 0, true},                              \
+                 QVN_FN(T, qvniCopy_##t##_C3MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
+    sweepMove<T>({"Copy_" #t "_C4MR", map(4, 4, {0, 1, 2, 3}), 0, 0, true},                           \
+                 QVN_FN(T, qvniCopy_##t##_C4MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
+    sweepMove<T>({"Copy_" #t "_AC4MR", map(4, 4, {0, 1, 2, kKeep}), 0, 0, true},                      \
+                 QVN_FN(T, qvniCopy_##t##_AC4MR(s, int(ss), d, int(ds), r, m, int(ms))));
+    QVN_EACH_TYPE(X)
+#undef X
+}
+
+TEST(Set, MaskedAndOneChannelForms) {
+#define X(t, T)                                                                                        \
+    sweepMove<T>({"Set_" #t "_C1MR", map(1, 1, {kFill}, {7}), 0, 0, true},                            \
+                 QVN_FN(T, qvniSet_##t##_C1MR(T(7), d, int(ds), r, m, int(ms))));                      \
+    sweepMove<T>({"Set_" #t "_C3MR", map(3, 3, {kFill, kFill, kFill}, {1, 100, 3}), 0, 0, true},       \
+                 QVN_FN(T, [&] { const T v[3] = {1, 100, 3}; return qvniSet_##t##_C3MR(v, d, int(ds), r, m, int(ms)); }())); \
+    sweepMove<T>({"Set_" #t "_C4MR", map(4, 4, {kFill, kFill, kFill, kFill}, {9, 8, 7, 6}), 0, 0, true}, \
+                 QVN_FN(T, [&] { const T v[4] = {9, 8, 7, 6}; return qvniSet_##t##_C4MR(v, d, int(ds), r, m, int(ms)); }())); \
+    sweepMove<T>({"Set_" #t "_AC4MR", map(4, 4, {kFill, kFill, kFill, kKeep}, {5, 4, 3}), 0, 0, true}, \
+                 QVN_FN(T, [&] { const T v[3] = {5, 4, 3}; return qvniSet_##t##_AC4MR(v, d, int(ds), r, m, int(ms)); }())); \
+    sweepMove<T>({"Set_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, kFill}, {0, 0, 42}), 0, 2},    \
+                 QVN_FN(T, qvniSet_##t##_C3CR(T(42), d, int(ds), r)));                                 \
+    sweepMove<T>({"Set_" #t "_C4CR channel 3", map(4, 4, {kKeep, kKeep, kKeep, kFill}, {0, 0, 0, 42}), 0, 3}, \
+                 QVN_FN(T, qvniSet_##t##_C4CR(T(42), d, int(ds), r)));
+    QVN_EACH_TYPE(X)
+#undef X
+    sweepMove<Qvn8u>({"Set_8u_C4CR channel 1", map(4, 4, {kKeep, kFill, kKeep, kKeep}, {0, 42}), 0, 1},
+                     QVN_FN(Qvn8u, qvniSet_8u_C4CR(42, d, int(ds), r)));
+}
+
+// Pointers address the chosen channel: the last one reaches the end of the
+// row (the guarded images end at a protected page every other case).
+TEST(Copy, OneChannelFormsAndLayoutChanges) {
+#define X(t, T)                                                                                        \
+    sweepMove<T>({"Copy_" #t "_C3C1R channel 2", map(3, 1, {2}), 2, 0},                                \
+                 QVN_FN(T, qvniCopy_##t##_C3C1R(s, int(ss), d, int(ds), r)));                          \
+    sweepMove<T>({"Copy_" #t "_C4C1R channel 3", map(4, 1, {3}), 3, 0},                                \
+                 QVN_FN(T, qvniCopy_##t##_C4C1R(s, int(ss), d, int(ds), r)));                          \
+    sweepMove<T>({"Copy_" #t "_C1C3R channel 2", map(1, 3, {kKeep, kKeep, 0}), 0, 2},                  \
+                 QVN_FN(T, qvniCopy_##t##_C1C3R(s, int(ss), d, int(ds), r)));                          \
+    sweepMove<T>({"Copy_" #t "_C1C4R channel 3", map(1, 4, {kKeep, kKeep, kKeep, 0}), 0, 3},           \
+                 QVN_FN(T, qvniCopy_##t##_C1C4R(s, int(ss), d, int(ds), r)));                          \
+    sweepMove<T>({"Copy_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, 2}), 2, 2},                   \
+                 QVN_FN(T, qvniCopy_##t##_C3CR(s, int(ss), d, int(ds), r)));                           \
+    sweepMove<T>({"Copy_" #t "_C4CR channel 3", map(4, 4, {kKeep, kKeep, kKeep, 3}), 3, 3},            \
+                 QVN_FN(T, qvniCopy_##t##_C4CR(s, int(ss), d, int(ds), r)));                           \
+    sweepMove<T>({"Copy_" #t "_AC4C3R", map(4, 3, {0, 1, 2})},                                         \
+                 QVN_FN(T, qvniCopy_##t##_AC4C3R(s, int(ss), d, int(ds), r)));                         \
+    sweepMove<T>({"Copy_" #t "_C3AC4R", map(3, 4, {0, 1, 2, kKeep})},                                  \
+                 QVN_FN(T, qvniCopy_##t##_C3AC4R(s, int(ss), d, int(ds), r)));
+    QVN_EACH_TYPE(X)
+#undef X
+    sweepMove<Qvn8u>({"Copy_8u_C3C1R channel 0", map(3, 1, {0})},
+                     QVN_FN(Qvn8u, qvniCopy_8u_C3C1R(s, int(ss), d, int(ds), r)));
+    sweepMove<Qvn8u>({"Copy_8u_C1C4R channel 1", map(1, 4, {kKeep, 0, kKeep, kKeep}), 0, 1},
+                     QVN_FN(Qvn8u, qvniCopy_8u_C1C4R(s, int(ss), d, int(ds), r)));
+    sweepMove<Qvn8u>({"Dup_8u_C1C3R", map(1, 3, {0, 0, 0})},
+                     QVN_FN(Qvn8u, qvniDup_8u_C1C3R(s, int(ss), d, int(ds), r)));
+    sweepMove<Qvn8u>({"Dup_8u_C1C4R", map(1, 4, {0, 0, 0, 0})},
+                     QVN_FN(Qvn8u, qvniDup_8u_C1C4R(s, int(ss), d, int(ds), r)));
+}
+
+// Interleaved to planar and back: K planes sharing one step.
+template <class T, int K>
+void sweepPlanar(const char* name, QvnStatus (*toPlanes)(const T*, int, T* const*, int, QvnRoiSize),
+                 QvnStatus (*fromPlanes)(const T* const*, int, T*, int, QvnRoiSize)) {
+    std::uint32_t seed = 100;
+    for (int w : sweepWidths())
+        for (int h : {1, 3})
+            for (int gap : {0, 5}) {
+                ++seed;
+                GuardedImage<T> pix({w, h, K, gap * K, bool(seed % 2), seed});
+                std::vector<std::unique_ptr<GuardedImage<T>>> planes;
+                T* p[K];
+                for (int c = 0; c < K; ++c) {
+                    planes.push_back(std::make_unique<GuardedImage<T>>(Layout{w, h, 1, gap, c % 2 == 0, seed + c}));
+                    p[c] = planes.back()->data();
+                }
+                ASSERT_EQ(toPlanes(pix.data(), int(pix.step()), p, int(planes[0]->step()), {w, h}), qvnOk);
+                for (int c = 0; c < K; ++c) {
+                    for (std::int64_t y = 0; y < h; ++y)
+                        for (std::int64_t x = 0; x < w; ++x)
+                            ASSERT_TRUE(sameBits(planes[c]->at(x, y), pix.at(x * K + c, y)))
+                                << name << " to planes, width " << w << " height " << h << " at (" << x << ", "
+                                << y << ", " << c << ")";
+                    planes[c]->expectUntouchedOutsideRoi();
+                    // new contents for the way back
+                    for (std::int64_t y = 0; y < h; ++y)
+                        for (std::int64_t x = 0; x < w; ++x) planes[c]->at(x, y) = T((x * 7 + y * 3 + c) & 0x7F);
+                }
+                const T* cp[K];
+                for (int c = 0; c < K; ++c) cp[c] = p[c];
+                ASSERT_EQ(fromPlanes(cp, int(planes[0]->step()), pix.data(), int(pix.step()), {w, h}), qvnOk);
+                for (std::int64_t y = 0; y < h; ++y)
+                    for (std::int64_t x = 0; x < w; ++x)
+                        for (int c = 0; c < K; ++c)
+                            ASSERT_TRUE(sameBits(pix.at(x * K + c, y), T((x * 7 + y * 3 + c) & 0x7F)))
+                                << name << " from planes, width " << w << " height " << h << " at (" << x << ", "
+                                << y << ", " << c << ")";
+                pix.expectUntouchedOutsideRoi();
+            }
+}
+
+TEST(Copy, PlanarBothWays) {
+#define X(t, T)                                                                      \
+    sweepPlanar<T, 3>("Copy_" #t "_C3P3R/P3C3R", qvniCopy_##t##_C3P3R, qvniCopy_##t##_P3C3R); \
+    sweepPlanar<T, 4>("Copy_" #t "_C4P4R/P4C4R", qvniCopy_##t##_C4P4R, qvniCopy_##t##_P4C4R);
+    QVN_EACH_TYPE(X)
+#undef X
+}
+
+TEST(Copy, PlanarCopiesAskForTheCacheSizeByTheirCount) {
+    resetCacheDouble();
+    cacheDouble().sizeBytes = 4096;  // every planar copy past the threshold streams
+    const int w = 43691, h = 2;      // 16s C3: 524,292 bytes
+    std::vector<Qvn16s> pix(3 * w * h), back(3 * w * h), plane[3];
+    for (std::size_t i = 0; i < pix.size(); ++i) pix[i] = Qvn16s(i * 2654435761u);
+    for (auto& p : plane) p.resize(w * h);
+    Qvn16s* p[3] = {plane[0].data(), plane[1].data() , plane[2].data()};
+    ASSERT_EQ(qvniCopy_16s_C3P3R(pix.data(), 6 * w, p, 2 * w, {w, h}), qvnOk);
+    EXPECT_EQ(cacheDouble().calls, 1);
+    const Qvn16s* cp[3] = {p[0], p[1], p[2]};
+    ASSERT_EQ(qvniCopy_16s_P3C3R(cp, 2 * w, back.data(), 6 * w, {w, h}), qvnOk);
+    EXPECT_EQ(cacheDouble().calls, 2);
+    EXPECT_EQ(pix, back);
+    // 524,286 bytes stay below the threshold; 16u and 8u C3 never stream
+    ASSERT_EQ(qvniCopy_16s_C3P3R(pix.data(), 6 * w, p, 2 * w, {43681, 2}), qvnOk);
+    ASSERT_EQ(qvniCopy_16u_C3P3R(reinterpret_cast<Qvn16u*>(pix.data()), 6 * w,
+                                 reinterpret_cast<Qvn16u* const*>(p), 2 * w, {w, h}), qvnOk);
+    EXPECT_EQ(cacheDouble().calls, 2);
+    resetCacheDouble();
+}
+
+TEST(Copy, StepsAreNotTested) {
+    // A negative step walks the rows upwards; a zero step repeats one row.
+    std::vector<Qvn8u> src(4 * 9), dst(4 * 9, 0);
+    for (std::size_t i = 0; i < src.size(); ++i) src[i] = Qvn8u(i);
+    ASSERT_EQ(qvniCopy_8u_C1R(src.data() + 27, -9, dst.data() + 27, -9, {9, 4}), qvnOk);
+    EXPECT_EQ(src, dst);
+    ASSERT_EQ(qvniCopy_8u_C1R(src.data(), 0, dst.data(), 9, {9, 4}), qvnOk);
+    for (int y = 0; y < 4; ++y) EXPECT_EQ(dst[y * 9 + 5], 5);
+}
+
+TEST(Copy, AllZeroMaskAndErrorsLeaveTheDestinationUnchanged) {
+    GuardedImage<Qvn32f> src({37, 3, 4, -1, false, 3}), dst({37, 3, 4, -1, true, 4});
+    GuardedImage<Qvn8u> mask({37, 3, 1, -1, false, 5});
+    for (std::int64_t y = 0; y < 3; ++y)
+        for (std::int64_t x = 0; x < 37; ++x) mask.at(x, y) = 0;
+    const int ss = int(src.step()), ds = int(dst.step()), ms = int(mask.step());
+    EXPECT_EQ(qvniCopy_32f_C4MR(src.data(), ss, dst.data(), ds, {37, 3}, mask.data(), ms), qvnOk);
+    const Qvn32f v[3] = {1, 2, 3};
+    EXPECT_EQ(qvniSet_32f_AC4MR(v, dst.data(), ds, {37, 3}, mask.data(), ms), qvnOk);
+    EXPECT_EQ(qvniCopy_32f_C4MR(src.data(), ss, dst.data(), ds, {37, 3}, nullptr, ms), qvnErrNullPointer);
+    EXPECT_EQ(qvniCopy_32f_C4MR(src.data(), ss, dst.data(), ds, {37, 0}, mask.data(), ms), qvnErrSize);
+    EXPECT_EQ(qvniCopy_32f_C4C1R(src.data(), ss, dst.data(), ds, {-1, 3}), qvnErrSize);
+    Qvn32f* planes[4] = {dst.data(), dst.data(), nullptr, dst.data()};
+    EXPECT_EQ(qvniCopy_32f_C4P4R(src.data(), ss, planes, ds, {0, 3}), qvnErrNullPointer);
+    dst.expectUnchanged();
+}
+
+}  // namespace
+}  // namespace qvn::test

@@ -1,0 +1,136 @@
+// qvniSwapChannels against the channel-map model, and the checks that differ
+// from one layout to the next.
+#include <gtest/gtest.h>
+
+#include <vector>
+
+#include "qvnip.h"
+#include "support/move_sweep.h"
+
+namespace qvn::test {
+namespace {
+
+using ref::ChannelMap;
+
+
+// The model of dstOrder: 0..srcElems-1 a source channel; for C3C4 also 3 the
+// fill value and above 3 the old value; AC4 keeps alpha.
+ChannelMap orderMap(int srcElems, int dstElems, const int* order, int entries, double fill = 0) {
+    ChannelMap m;
+    m.srcElems = srcElems, m.dstElems = dstElems;
+    for (int c = 0; c < dstElems; ++c) {
+        m.from[c] = c < entries ? order[c] : ChannelMap::kKeep;
+        if (m.from[c] == 3 && srcElems == 3) m.from[c] = ChannelMap::kFill, m.fill[c] = fill;
+        if (m.from[c] > 3) m.from[c] = ChannelMap::kKeep;
+    }
+    return m;
+}
+
+// Orders passed to the captureless calls below.
+int gOrder[4];
+
+TEST(SwapChannels, EveryLayoutAndType) {
+    const int orders3[][4] = {{2, 1, 0}, {1, 1, 0}};
+    const int orders4[][4] = {{3, 2, 1, 0}, {1, 3, 3, 0}};
+    for (const auto& o : orders3) {
+        std::copy(o, o + 4, gOrder);
+#define X(t, T)                                                                                         \
+        sweepMove<T>({"SwapChannels_" #t "_C3R", orderMap(3, 3, o, 3)},                                 \
+                     QVN_FN(T, qvniSwapChannels_##t##_C3R(s, int(ss), d, int(ds), r, gOrder)));         \
+        sweepMove<T>({"SwapChannels_" #t "_AC4R", orderMap(4, 4, o, 3)},                                \
+                     QVN_FN(T, qvniSwapChannels_##t##_AC4R(s, int(ss), d, int(ds), r, gOrder)));
+        QVN_EACH_TYPE(X)
+#undef X
+        sweepMove<Qvn8u>({"SwapChannels_8u_C3IR", orderMap(3, 3, o, 3), 0, 0, false, true},
+                         QVN_FN(Qvn8u, qvniSwapChannels_8u_C3IR(d, int(ds), r, gOrder)));
+    }
+    for (const auto& o : orders4) {
+        std::copy(o, o + 4, gOrder);
+#define X(t, T)                                                                                         \
+        sweepMove<T>({"SwapChannels_" #t "_C4R", orderMap(4, 4, o, 4)},                                 \
+                     QVN_FN(T, qvniSwapChannels_##t##_C4R(s, int(ss), d, int(ds), r, gOrder)));         \
+        sweepMove<T>({"SwapChannels_" #t "_C4C3R", orderMap(4, 3, o, 3)},                               \
+                     QVN_FN(T, qvniSwapChannels_##t##_C4C3R(s, int(ss), d, int(ds), r, gOrder)));
+        QVN_EACH_TYPE(X)
+#undef X
+        sweepMove<Qvn8u>({"SwapChannels_8u_C4IR", orderMap(4, 4, o, 4), 0, 0, false, true},
+                         QVN_FN(Qvn8u, qvniSwapChannels_8u_C4IR(d, int(ds), r, gOrder)));
+    }
+    // C3C4: a source channel, the fill value and an untouched channel in one
+    // order, and the order that leaves channel 0 alone.
+    const int orders34[][4] = {{2, 3, 0, 9}, {3, 0, 1, 2}, {4, 0, 1, 2}};
+    for (const auto& o : orders34) {
+        std::copy(o, o + 4, gOrder);
+#define X(t, T)                                                                                         \
+        sweepMove<T>({"SwapChannels_" #t "_C3C4R", orderMap(3, 4, o, 4, 77)},                           \
+                     QVN_FN(T, qvniSwapChannels_##t##_C3C4R(s, int(ss), d, int(ds), r, gOrder, T(77))));
+        QVN_EACH_TYPE(X)
+#undef X
+    }
+}
+
+// Every order of the 8u forms on one image of a few vectors and a tail.
+TEST(SwapChannels, EveryOrderOf8u) {
+    for (int o = 0; o < 6 * 6 * 6 * 6; ++o) {
+        int order[4] = {o % 6, o / 6 % 6, o / 36 % 6, o / 216};
+        std::copy(order, order + 4, gOrder);
+        const bool valid3 = order[0] < 3 && order[1] < 3 && order[2] < 3;
+        if (o < 216 && valid3)
+            sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C3R", orderMap(3, 3, order, 3)},
+                                 QVN_FN(Qvn8u, qvniSwapChannels_8u_C3R(s, int(ss), d, int(ds), r, gOrder)));
+        if (order[0] < 4 && order[1] < 4 && order[2] < 4 && order[3] < 4)
+            sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C4R", orderMap(4, 4, order, 4)},
+                                 QVN_FN(Qvn8u, qvniSwapChannels_8u_C4R(s, int(ss), d, int(ds), r, gOrder)));
+        sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C3C4R", orderMap(3, 4, order, 4, 5)},
+                             QVN_FN(Qvn8u, qvniSwapChannels_8u_C3C4R(s, int(ss), d, int(ds), r, gOrder, 5)));
+        if (testing::Test::HasFailure()) {
+            ADD_FAILURE() << "order " << order[0] << order[1] << order[2] << order[3];
+            return;
+        }
+    }
+}
+
+TEST(SwapChannels, ChannelOrderChecks) {
+    std::vector<Qvn8u> a(4 * 8 * 2, 1), b(4 * 8 * 2, 2);
+    const auto before = b;
+    const QvnRoiSize roi{8, 2};
+    const int minus[4] = {0, -1, 1, 2}, three[4] = {0, 3, 1, 2}, four[4] = {0, 4, 1, 2};
+    // C4R reads entries as unsigned: -1 and 4 fail, 3 is a channel.
+    EXPECT_EQ(qvniSwapChannels_8u_C4R(a.data(), 32, b.data(), 32, roi, minus), qvnErrChannelOrder);
+    EXPECT_EQ(qvniSwapChannels_8u_C4R(a.data(), 32, b.data(), 32, roi, four), qvnErrChannelOrder);
+    EXPECT_EQ(qvniSwapChannels_8u_C4IR(b.data(), 32, roi, four), qvnErrChannelOrder);
+    // three-entry orders: above 2 fails, except C4C3 (above 3)
+    EXPECT_EQ(qvniSwapChannels_8u_C3R(a.data(), 24, b.data(), 24, roi, three), qvnErrChannelOrder);
+    EXPECT_EQ(qvniSwapChannels_32f_AC4R(reinterpret_cast<Qvn32f*>(a.data()), 64, reinterpret_cast<Qvn32f*>(b.data()), 64,
+                                        {4, 2}, three), qvnErrChannelOrder);
+    EXPECT_EQ(qvniSwapChannels_8u_C3IR(b.data(), 24, roi, minus), qvnErrChannelOrder);
+    EXPECT_EQ(qvniSwapChannels_16u_C4C3R(reinterpret_cast<Qvn16u*>(a.data()), 32, reinterpret_cast<Qvn16u*>(b.data()),
+                                         24, {4, 2}, four), qvnErrChannelOrder);
+    // C3C4 rejects only negative entries
+    EXPECT_EQ(qvniSwapChannels_8u_C3C4R(a.data(), 24, b.data(), 32, roi, minus, 0), qvnErrChannelOrder);
+    // Two faults: the earlier check of each layout wins.
+    EXPECT_EQ(qvniSwapChannels_8u_C3R(a.data(), 0, b.data(), 24, {0, 2}, three), qvnErrSize);
+    EXPECT_EQ(qvniSwapChannels_8u_C3R(a.data(), 0, b.data(), 24, roi, three), qvnErrStep);
+    EXPECT_EQ(qvniSwapChannels_8u_C4R(a.data(), 0, b.data(), 32, {0, 2}, nullptr), qvnErrStep);
+    EXPECT_EQ(qvniSwapChannels_8u_C4R(a.data(), 32, b.data(), 32, {0, 2}, nullptr), qvnErrSize);
+    EXPECT_EQ(qvniSwapChannels_8u_C4R(a.data(), 32, b.data(), 32, roi, nullptr), qvnErrNullPointer);
+    EXPECT_EQ(qvniSwapChannels_8u_C3IR(b.data(), 24, {0, 2}, nullptr), qvnErrSize);
+    EXPECT_EQ(qvniSwapChannels_8u_C4IR(b.data(), 0, {0, 2}, four), qvnErrStep);
+    EXPECT_EQ(qvniSwapChannels_8u_C4C3R(a.data(), 0, b.data(), 24, roi, four), qvnErrStep);
+    EXPECT_EQ(qvniSwapChannels_8u_C3C4R(a.data(), 24, b.data(), 0, roi, minus, 0), qvnErrStep);
+    EXPECT_EQ(b, before);
+}
+
+TEST(SwapChannels, NegativeStepsWalkUpwards) {
+    // Two rows of 5 pixels given bottom row first.
+    std::vector<Qvn8u> src(2 * 15), dst(2 * 15, 0), want(2 * 15);
+    for (int i = 0; i < 30; ++i) src[i] = Qvn8u(i);
+    for (int p = 0; p < 10; ++p)
+        for (int c = 0; c < 3; ++c) want[3 * p + c] = src[3 * p + 2 - c];
+    const int order[3] = {2, 1, 0};
+    ASSERT_EQ(qvniSwapChannels_8u_C3R(src.data() + 15, -15, dst.data() + 15, -15, {5, 2}, order), qvnOk);
+    EXPECT_EQ(dst, want);
+}
+
+}  // namespace
+}  // namespace qvn::test
