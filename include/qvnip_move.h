@@ -130,10 +130,9 @@ QVN_API QvnStatus qvniConvert_32u32s_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn
 /* Scaled conversions from floats: each value is multiplied by 2^-scaleFactor,
  * then values not below the destination maximum give the maximum, values not
  * above its minimum give the minimum, NaN gives 0, and the rest is rounded by
- * roundMode. Checks: pointers, ROI, steps, then the mode. Scale factors past
- * the exponent range of the source type keep their effect: infinities still
- * saturate and every finite value becomes 0 (or saturates, for a large
- * negative factor). The in-place 32f to 32u form reuses the source memory. */
+ * roundMode. Any scale factor gives the exactly scaled value, however far it
+ * lies outside the exponent range. Checks: pointers, ROI, steps, then the
+ * mode. The in-place 32f to 32u form reuses the source memory. */
 QVN_API QvnStatus qvniConvert_32f8u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
 QVN_API QvnStatus qvniConvert_32f8s_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
 QVN_API QvnStatus qvniConvert_32f16u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);

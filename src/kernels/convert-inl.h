@@ -6,7 +6,8 @@
 //    narrowing (negative values become 0 in unsigned destinations);
 //  - FloatConvert: everything that passes through floating point. The block is
 //    loaded into float or double lanes (exactly), optionally mapped by
-//    x * mul + add, and for integer destinations NaN becomes 0, the "half" is
+//    x * mul * mul2 + add (two multipliers reach scale factors beyond the
+//    exponent range of one), and for integer destinations NaN becomes 0, the "half" is
 //    added away from zero (financial rounding), the value is clamped to the
 //    destination range and converted with the processor's rounding control,
 //    which the caller sets for the call (RoundingScope).
@@ -182,16 +183,17 @@ inline void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
 }
 
 // Conversions through floating point; W is float or double, kAffine adds the
-// map x * mul + add.
+// map (x * mul) * mul2 + add.
 template <class S, class D, class W, bool kAffine>
 struct FloatConvert {
-    isa::Vec<W> mul, add, half, lo, hi;
+    isa::Vec<W> mul, mul2, add, half, lo, hi;
 
     // mode is the QvnRounding the caller has set up: qvnRndFinancial adds a
     // half away from zero before the (then truncating) conversion.
-    static FloatConvert make(W mulBy, W addTo, int mode) {
+    static FloatConvert make(W mulBy, W addTo, int mode, W mulBy2 = W(1)) {
         FloatConvert op;
         op.mul = isa::set1(mulBy);
+        op.mul2 = isa::set1(mulBy2);
         op.add = isa::set1(addTo);
         op.half = isa::set1(W(mode == qvnRndFinancial ? 0.5 : 0.0));
         if constexpr (std::is_integral_v<D>) {
@@ -212,7 +214,7 @@ struct FloatConvert {
         loadWide<S, W>(s, w);
         for (int k = 0; k < kN; ++k) {
             Vec<W> x = w[k];
-            if constexpr (kAffine) x = isa::add(isa::mul(x, mul), add);
+            if constexpr (kAffine) x = isa::add(isa::mul(isa::mul(x, mul), mul2), add);
             if constexpr (std::is_integral_v<D>) {
                 x = bitAnd(x, cmpEq(x, x));                     // NaN -> 0
                 x = isa::add(x, bitOr(bitAnd(x, sign), half));  // financial rounding

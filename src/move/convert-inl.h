@@ -68,16 +68,24 @@ using ScaledWide = std::conditional_t<std::is_same_v<S, Qvn64f> || sizeof(D) >= 
                                           (std::is_integral_v<S> && sizeof(S) >= 4),
                                       double, float>;
 
-// 2 to the power -sf as W. Beyond the exponent range the factor stays at the
-// smallest non-zero W (so infinities keep saturating) or becomes infinity
-// (so zero stays zero and everything else saturates).
+// 2 to the power -sf as the product of two W factors, so that every finite
+// value is scaled exactly (or saturates, or rounds to 0, as the exact product
+// would). A large positive sf stops at the smallest non-zero factor, where
+// every finite value already rounds to 0 and infinities still saturate; a
+// negative sf beyond twice the exponent range makes the second factor
+// infinite, where every non-zero value saturates and zero stays zero.
 template <class W>
-inline W scaleFactorOf(int sf) {
+struct ScaleFactor {
+    W first, second;
+};
+template <class W>
+inline ScaleFactor<W> scaleFactorOf(int sf) {
     constexpr int kMinExp = std::numeric_limits<W>::min_exponent - std::numeric_limits<W>::digits;  // -149, -1074
-    constexpr int kMaxExp = std::numeric_limits<W>::max_exponent - 1;                                // 127, 1023
-    if (sf > -kMinExp) return std::numeric_limits<W>::denorm_min();
-    if (sf < -kMaxExp) return std::numeric_limits<W>::infinity();
-    return std::ldexp(W(1), -sf);
+    constexpr std::int64_t kMaxExp = std::numeric_limits<W>::max_exponent - 1;                       // 127, 1023
+    if (sf >= 0) return {sf > -kMinExp ? std::numeric_limits<W>::denorm_min() : std::ldexp(W(1), -sf), W(1)};
+    const std::int64_t e = -std::int64_t(sf);
+    const std::int64_t e1 = e < kMaxExp ? e : kMaxExp, e2 = e - e1;
+    return {std::ldexp(W(1), int(e1)), e2 > kMaxExp ? std::numeric_limits<W>::infinity() : std::ldexp(W(1), int(e2))};
 }
 
 // Plain conversions: widening ones (exact; 32s and 32u to 32f round to
@@ -116,15 +124,16 @@ inline QvnStatus convertRound(const S* src, std::int64_t srcStep, D* dst, std::i
                                 dstStep, roi);
 }
 
-// Scaled conversion without a checked mode: value x 2^-sf, rounded to nearest
-// with halves to even, saturated.
+// Scaled conversion after the checks: value x 2^-sf, saturated and rounded by
+// mode, with the rounding control set for the call.
 template <class S, class D, class L>
 inline QvnStatus scaled(const S* src, std::int64_t srcStep, D* dst, std::int64_t dstStep, RoiL roi, int mode,
                         int sf) {
     using W = ScaledWide<S, D>;
+    const ScaleFactor<W> f = scaleFactorOf<W>(sf);
     const RoundingScope scope(mode);
-    return convertRows<S, D, L>(kernels::FloatConvert<S, D, W, true>::make(scaleFactorOf<W>(sf), 0, mode), src,
-                                srcStep, dst, dstStep, roi);
+    return convertRows<S, D, L>(kernels::FloatConvert<S, D, W, true>::make(f.first, 0, mode, f.second), src, srcStep,
+                                dst, dstStep, roi);
 }
 
 // Scaled conversion of integers: pointers, ROI, steps; any scale factor.
