@@ -5,12 +5,11 @@
 //  - IntConvert: integer to integer, exact when widening, saturating when
 //    narrowing (negative values become 0 in unsigned destinations);
 //  - FloatConvert: everything that passes through floating point. The block is
-//    loaded into float or double lanes (exactly), optionally mapped by
-//    x * mul * mul2 + add (two multipliers reach scale factors beyond the
-//    exponent range of one), and for integer destinations NaN becomes 0, the "half" is
-//    added away from zero (financial rounding), the value is clamped to the
-//    destination range and converted with the processor's rounding control,
-//    which the caller sets for the call (RoundingScope).
+//    loaded into float or double lanes (exactly), optionally mapped linearly,
+//    and for integer destinations a half is added away from zero (financial
+//    rounding), NaN becomes 0, the value is saturated to the destination range
+//    and converted with the processor's rounding control, which the caller
+//    sets for the call (RoundingScope).
 // Heads and tails go through the same block on a staged copy, so every element
 // of a row gets exactly the same arithmetic.
 #ifndef QVN_KERNELS_CONVERT_INL_H
@@ -25,6 +24,12 @@
 #include "kernels/store-inl.h"
 #include "qvnip_types.h"
 
+// The block helpers below must melt into one loop body: left to itself the
+// compiler keeps some of them out of line and passes the vectors in memory.
+#ifndef QVN_ALWAYS_INLINE
+#define QVN_ALWAYS_INLINE inline __attribute__((always_inline))
+#endif
+
 QVN_TARGET_BEGIN
 namespace kernels {
 
@@ -33,7 +38,7 @@ inline constexpr std::int64_t kConvertBlock = 16;  // elements per block
 // Stores v at the 16-byte aligned p; with Keep the lanes set in keep (alpha)
 // keep the destination's previous value.
 template <bool Keep, class Store, class D>
-inline void put(D* p, isa::Vec<D> v, isa::Vec<D> keep) {
+QVN_ALWAYS_INLINE void put(D* p, isa::Vec<D> v, isa::Vec<D> keep) {
     if constexpr (Keep) v = isa::select(keep, isa::loadA(p), v);
     Store::store(p, v);
 }
@@ -41,7 +46,7 @@ inline void put(D* p, isa::Vec<D> v, isa::Vec<D> keep) {
 // 16 elements of an integer type of up to 16 bits (or 32 bits, taken as they
 // are) as four int32 vectors.
 template <class S>
-inline void loadInt32(const S* s, isa::Vec<std::int32_t>* v) {
+QVN_ALWAYS_INLINE void loadInt32(const S* s, isa::Vec<std::int32_t>* v) {
     using namespace isa;
     using I32 = std::int32_t;
     if constexpr (sizeof(S) == 1) {
@@ -68,7 +73,7 @@ inline void loadInt32(const S* s, isa::Vec<std::int32_t>* v) {
 
 // Four int32 vectors saturated to D and stored (16 elements).
 template <class D, bool Keep, class Store>
-inline void storeInt32(D* d, const isa::Vec<std::int32_t>* v, isa::Vec<D> keep) {
+QVN_ALWAYS_INLINE void storeInt32(D* d, const isa::Vec<std::int32_t>* v, isa::Vec<D> keep) {
     using namespace isa;
     if constexpr (sizeof(D) == 1) {
         const Vec<std::int16_t> a = packSat<std::int16_t>(v[0], v[1]), b = packSat<std::int16_t>(v[2], v[3]);
@@ -88,7 +93,7 @@ inline void storeInt32(D* d, const isa::Vec<std::int32_t>* v, isa::Vec<D> keep) 
 template <class S, class D>
 struct IntConvert {
     template <bool Keep, class Store>
-    void block(const S* s, D* d, isa::Vec<D> keep) const {
+    QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
         using namespace isa;
         constexpr bool kSignedToUnsigned = std::is_signed_v<S> && !std::is_signed_v<D>;
         if constexpr (sizeof(S) == 1 && sizeof(D) == 2 && !kSignedToUnsigned) {
@@ -114,7 +119,7 @@ struct IntConvert {
 // 16 elements of S as float (4 vectors) or double (8 vectors) lanes. Exact,
 // except 32s and 32u into float, which round by the rounding control.
 template <class S, class W>
-inline void loadWide(const S* s, isa::Vec<W>* w) {
+QVN_ALWAYS_INLINE void loadWide(const S* s, isa::Vec<W>* w) {
     using namespace isa;
     constexpr int kN = int(kConvertBlock / kLanes<W>);
     if constexpr (std::is_same_v<S, W>) {
@@ -158,7 +163,7 @@ inline void loadWide(const S* s, isa::Vec<W>* w) {
 // 16 lanes of W stored as D. Integer destinations expect lanes already clamped
 // to their range; the conversion rounds by the rounding control.
 template <class D, bool Keep, class Store, class W>
-inline void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
+QVN_ALWAYS_INLINE void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
     using namespace isa;
     constexpr int kN = int(kConvertBlock / kLanes<W>);
     if constexpr (std::is_same_v<D, W>) {
@@ -178,24 +183,36 @@ inline void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
             if constexpr (std::is_same_v<W, float>) v[k] = toInt(w[k]);
             else v[k] = toInt(w[2 * k], w[2 * k + 1]);
         }
-        storeInt32<D, Keep, Store>(d, v, keep);
+        if constexpr (std::is_same_v<D, std::uint16_t>) {
+            // lanes are within 0..65535: bias into the signed range and pack
+            const Vec<std::int32_t> bias = set1<std::int32_t>(32768);
+            for (int k = 0; k < 2; ++k) {
+                const Vec<std::int16_t> p = packSat<std::int16_t>(sub(v[2 * k], bias), sub(v[2 * k + 1], bias));
+                put<Keep, Store>(d + 8 * k, cast<D>(bitXor(p, set1<std::int16_t>(-32768))), keep);
+            }
+        } else {
+            storeInt32<D, Keep, Store>(d, v, keep);
+        }
     }
 }
 
-// Conversions through floating point; W is float or double, kAffine adds the
-// map (x * mul) * mul2 + add.
-template <class S, class D, class W, bool kAffine>
-struct FloatConvert {
-    isa::Vec<W> mul, mul2, add, half, lo, hi;
+// The map a FloatConvert applies before rounding: none, x * mul + add, or
+// (x * mul) * mul2 (a power of two split in two factors, so that scale
+// factors beyond the exponent range of one factor stay exact).
+enum class Map { kNone, kMulAdd, kScale };
 
-    // mode is the QvnRounding the caller has set up: qvnRndFinancial adds a
-    // half away from zero before the (then truncating) conversion.
-    static FloatConvert make(W mulBy, W addTo, int mode, W mulBy2 = W(1)) {
+// Conversions through floating point; W is float or double. With kFinancial a
+// half is added away from zero before the conversion, which then truncates
+// (the caller has set the rounding control toward zero).
+template <class S, class D, class W, Map kMap, bool kFinancial>
+struct FloatConvert {
+    isa::Vec<W> mul, add, mul2, lo, hi;
+
+    static FloatConvert make(W mulBy = W(1), W addTo = W(0), W mulBy2 = W(1)) {
         FloatConvert op;
         op.mul = isa::set1(mulBy);
-        op.mul2 = isa::set1(mulBy2);
         op.add = isa::set1(addTo);
-        op.half = isa::set1(W(mode == qvnRndFinancial ? 0.5 : 0.0));
+        op.mul2 = isa::set1(mulBy2);
         if constexpr (std::is_integral_v<D>) {
             op.lo = isa::set1(W(std::numeric_limits<D>::min()));
             op.hi = isa::set1(W(std::numeric_limits<D>::max()));
@@ -206,18 +223,27 @@ struct FloatConvert {
     }
 
     template <bool Keep, class Store>
-    void block(const S* s, D* d, isa::Vec<D> keep) const {
+    QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
         using namespace isa;
         constexpr int kN = int(kConvertBlock / kLanes<W>);
-        const Vec<W> sign = set1(W(-0.0));
         Vec<W> w[kN];
         loadWide<S, W>(s, w);
         for (int k = 0; k < kN; ++k) {
             Vec<W> x = w[k];
-            if constexpr (kAffine) x = isa::add(isa::mul(isa::mul(x, mul), mul2), add);
-            if constexpr (std::is_integral_v<D>) {
-                x = bitAnd(x, cmpEq(x, x));                     // NaN -> 0
-                x = isa::add(x, bitOr(bitAnd(x, sign), half));  // financial rounding
+            if constexpr (kMap == Map::kMulAdd) x = isa::add(isa::mul(x, mul), add);
+            if constexpr (kMap == Map::kScale) x = isa::mul(isa::mul(x, mul), mul2);
+            if constexpr (kFinancial) x = isa::add(x, bitOr(bitAnd(x, set1(W(-0.0))), set1(W(0.5))));
+            if constexpr (std::is_integral_v<D> && sizeof(D) <= 2) {
+                // Conversions give INT32_MIN for NaN and out-of-range lanes,
+                // which the packs saturate to the minimum: only the top needs
+                // a clamp (min keeps a NaN in its second operand), NaN is
+                // zeroed for signed results, and 16u is kept non-negative
+                // for its biased pack.
+                if constexpr (std::is_signed_v<D>) x = bitAnd(x, cmpEq(x, x));
+                if constexpr (std::is_same_v<D, std::uint16_t>) x = max(x, zero<W>());
+                x = min(hi, x);
+            } else if constexpr (std::is_integral_v<D>) {
+                x = bitAnd(x, cmpEq(x, x));  // NaN -> 0
                 x = min(max(x, lo), hi);
             }
             w[k] = x;

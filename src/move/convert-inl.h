@@ -61,6 +61,19 @@ inline QvnStatus convertRows(const Op& op, const S* src, std::int64_t srcStep, D
     return run(kernels::StoreRegular{});
 }
 
+// Runs a FloatConvert whose financial-rounding form is chosen by mode, with
+// the rounding control set for the call.
+template <class S, class D, class L, class W, kernels::Map M>
+inline QvnStatus convertByMode(int mode, const S* src, std::int64_t srcStep, D* dst, std::int64_t dstStep, RoiL roi,
+                               W mul = W(1), W add = W(0), W mul2 = W(1)) {
+    const RoundingScope scope(mode);
+    if (mode == qvnRndFinancial)
+        return convertRows<S, D, L>(kernels::FloatConvert<S, D, W, M, true>::make(mul, add, mul2), src, srcStep, dst,
+                                    dstStep, roi);
+    return convertRows<S, D, L>(kernels::FloatConvert<S, D, W, M, false>::make(mul, add, mul2), src, srcStep, dst,
+                                dstStep, roi);
+}
+
 // The arithmetic type of a scaled conversion: double where a 32-bit integer
 // or a 64f value is involved, float otherwise (both exact for the source).
 template <class S, class D>
@@ -99,7 +112,7 @@ inline QvnStatus convert(const S* src, std::int64_t srcStep, D* dst, std::int64_
         return convertRows<S, D, L>(kernels::IntConvert<S, D>{}, src, srcStep, dst, dstStep, roi);
     } else {
         using W = std::conditional_t<std::is_same_v<D, Qvn64f>, double, float>;
-        const auto op = kernels::FloatConvert<S, D, W, false>::make(1, 0, qvnRndNear);
+        const auto op = kernels::FloatConvert<S, D, W, kernels::Map::kNone, false>::make();
         if constexpr (std::is_integral_v<S> && sizeof(S) == 4) {
             const RoundingScope scope(qvnRndNear);  // 32-bit integers are not all exact in float
             return convertRows<S, D, L>(op, src, srcStep, dst, dstStep, roi);
@@ -119,9 +132,7 @@ inline QvnStatus convertRound(const S* src, std::int64_t srcStep, D* dst, std::i
     QVN_TRY(check::height(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::rounding(mode));
-    const RoundingScope scope(mode);
-    return convertRows<S, D, L>(kernels::FloatConvert<S, D, float, false>::make(1, 0, mode), src, srcStep, dst,
-                                dstStep, roi);
+    return convertByMode<S, D, L, float, kernels::Map::kNone>(mode, src, srcStep, dst, dstStep, roi);
 }
 
 // Scaled conversion after the checks: value x 2^-sf, saturated and rounded by
@@ -131,9 +142,8 @@ inline QvnStatus scaled(const S* src, std::int64_t srcStep, D* dst, std::int64_t
                         int sf) {
     using W = ScaledWide<S, D>;
     const ScaleFactor<W> f = scaleFactorOf<W>(sf);
-    const RoundingScope scope(mode);
-    return convertRows<S, D, L>(kernels::FloatConvert<S, D, W, true>::make(f.first, 0, mode, f.second), src, srcStep,
-                                dst, dstStep, roi);
+    return convertByMode<S, D, L, W, kernels::Map::kScale>(mode, src, srcStep, dst, dstStep, roi, f.first, W(0),
+                                                          f.second);
 }
 
 // Scaled conversion of integers: pointers, ROI, steps; any scale factor.

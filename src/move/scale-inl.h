@@ -27,7 +27,7 @@ inline QvnStatus scaleRange(const S* src, std::int64_t srcStep, D* dst, std::int
     const double k = kSpan<D> / kSpan<S>;
     const double b = kLowest<D> - kLowest<S> * k;
     const RoundingScope scope(qvnRndNear);
-    return convertRows<S, D, L>(kernels::FloatConvert<S, D, double, true>::make(k, b, qvnRndNear), src, srcStep,
+    return convertRows<S, D, L>(kernels::FloatConvert<S, D, double, kernels::Map::kMulAdd, false>::make(k, b), src, srcStep,
                                 dst, dstStep, roi);
 }
 
@@ -74,7 +74,7 @@ inline QvnStatus scaleFloat(const S* src, std::int64_t srcStep, D* dst, std::int
         k = range / 255.0f;
         b = vMin;
     }
-    return convertRows<S, D, L>(kernels::FloatConvert<S, D, float, true>::make(k, b, qvnRndNear), src, srcStep, dst,
+    return convertRows<S, D, L>(kernels::FloatConvert<S, D, float, kernels::Map::kMulAdd, false>::make(k, b), src, srcStep, dst,
                                 dstStep, roi);
 }
 
@@ -90,7 +90,7 @@ inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::hint(hint));
     const RoundingScope scope(qvnRndNear);
-    return convertRows<S, D, C1>(kernels::FloatConvert<S, D, double, true>::make(mVal, aVal, qvnRndNear), src,
+    return convertRows<S, D, C1>(kernels::FloatConvert<S, D, double, kernels::Map::kMulAdd, false>::make(mVal, aVal), src,
                                  srcStep, dst, dstStep, roi);
 }
 
