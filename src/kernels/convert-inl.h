@@ -102,6 +102,15 @@ struct IntConvert {
             const Vec<S> a = loadU(s);
             put<Keep, Store>(d, cast<D>(widenLo<H>(a)), keep);
             put<Keep, Store>(d + 8, cast<D>(widenHi<H>(a)), keep);
+        } else if constexpr (sizeof(S) == 2 && std::is_same_v<D, std::uint8_t>) {
+            // 16s8u, 16u8u: one saturating pack (16u first limited to 255)
+            Vec<std::int16_t> a = cast<std::int16_t>(loadU(s)), b = cast<std::int16_t>(loadU(s + 8));
+            if constexpr (!std::is_signed_v<S>) {
+                const Vec<std::uint16_t> top = set1<std::uint16_t>(255);
+                a = cast<std::int16_t>(min(cast<std::uint16_t>(a), top));
+                b = cast<std::int16_t>(min(cast<std::uint16_t>(b), top));
+            }
+            put<Keep, Store>(d, packSat<D>(a, b), keep);
         } else if constexpr (sizeof(S) == sizeof(D) && sizeof(S) <= 2 && kSignedToUnsigned) {
             // 8s8u, 16s16u: negative lanes to 0
             for (std::size_t k = 0; k < kConvertBlock; k += kLanes<S>) {
@@ -293,6 +302,21 @@ inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
     const isa::Vec<D> keep = Keep ? alphaMask<D>(head) : isa::zero<D>();
     for (; i + kConvertBlock <= n; i += kConvertBlock) op.template block<Keep, Store>(s + i, d + i, keep);
     if (i < n) convertStaged<Keep>(op, s, d, i, n - i);
+}
+
+// d[i] = table[s[i]] for 8-bit s and d, eight at a time through 64-bit
+// words; in place when d and s share memory.
+template <class S, class D>
+inline void lookupRow(const D* table, const S* s, D* d, std::int64_t n) {
+    static_assert(sizeof(S) == 1 && sizeof(D) == 1, "byte tables");
+    std::int64_t i = 0;
+    for (; i + 8 <= n; i += 8) {
+        std::uint64_t in, out = 0;
+        std::memcpy(&in, s + i, 8);
+        for (int k = 0; k < 8; ++k) out |= std::uint64_t(std::uint8_t(table[(in >> (8 * k)) & 0xFF])) << (8 * k);
+        std::memcpy(d + i, &out, 8);
+    }
+    for (; i < n; ++i) d[i] = table[std::uint8_t(s[i])];
 }
 
 }  // namespace kernels

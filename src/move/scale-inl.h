@@ -90,6 +90,18 @@ inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::hint(hint));
     const RoundingScope scope(qvnRndNear);
+    using Op = kernels::FloatConvert<S, D, double, kernels::Map::kMulAdd, false>;
+    if constexpr (sizeof(S) == 1 && sizeof(D) == 1) {
+        // 8-bit to 8-bit: the 256 results once, through the same arithmetic,
+        // then a table lookup per pixel.
+        alignas(16) S all[256];
+        alignas(16) D table[256];
+        for (int v = 0; v < 256; ++v) all[v] = S(v);
+        kernels::convertRow<false, kernels::StoreRegular>(Op::make(mVal, aVal), all, table, 256);
+        return forEachRow(
+            roi, [&](const S* s, D* d, std::int64_t n) { kernels::lookupRow(table, s, d, n); },
+            rows(src, srcStep, 1), rows(dst, dstStep, 1));
+    }
     return convertRows<S, D, C1>(kernels::FloatConvert<S, D, double, kernels::Map::kMulAdd, false>::make(mVal, aVal), src,
                                  srcStep, dst, dstStep, roi);
 }
