@@ -8,6 +8,270 @@
 QVN_BEGIN_DECLS
 
 
+/* Widening conversions: every value is copied exactly. AC4 leaves the
+ * destination's alpha as it is. Steps are not tested. Large C1, C3 and C4
+ * images of 8s to 32s or 32f, 16u or 16s to 32f, and C1 images of 8u to 16s,
+ * 32s or 32f are written with cache-bypassing stores. */
+QVN_API QvnStatus qvniConvert_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16u_C3R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16u_C4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16s_C1R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16s_C3R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16s_C4R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u16s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32s_C1R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32s_C3R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32s_C4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32f_C3R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32f_C4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8u32f_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32s_C1R(const Qvn8s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32s_C3R(const Qvn8s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32s_C4R(const Qvn8s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32s_AC4R(const Qvn8s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32f_C1R(const Qvn8s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32f_C3R(const Qvn8s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32f_C4R(const Qvn8s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32f_AC4R(const Qvn8s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32s_C1R(const Qvn16u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32s_C3R(const Qvn16u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32s_C4R(const Qvn16u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32s_AC4R(const Qvn16u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32f_C1R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32f_C3R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32f_C4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32f_AC4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32s_C1R(const Qvn16s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32s_C3R(const Qvn16s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32s_C4R(const Qvn16s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32f_C1R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32f_C3R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32f_C4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32f_AC4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+
+/* Narrowing integer conversions: values are saturated to the destination
+ * range. Steps are not tested. */
+QVN_API QvnStatus qvniConvert_16u8u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u8u_C3R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u8u_C4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u8u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s8u_C1R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s8u_C3R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s8u_C4R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s8u_AC4R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8u_C1R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8u_C3R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8u_C4R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8u_AC4R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8s_C1R(const Qvn32s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8s_C3R(const Qvn32s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8s_C4R(const Qvn32s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s8s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+
+/* Narrowing conversions from 32f: each value is rounded by roundMode
+ * (qvnRndZero toward zero, qvnRndNear to nearest with halves to even,
+ * qvnRndFinancial to nearest with halves away from zero) and saturated; NaN
+ * gives 0. The processor's rounding control is set for the call and restored
+ * before it returns. Checks: pointers, width, height, steps, then the mode
+ * (above 2: qvnErrRounding). */
+QVN_API QvnStatus qvniConvert_32f8u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8u_C3R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8u_C4R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8u_AC4R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8s_C1R(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8s_C3R(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8s_C4R(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f8s_AC4R(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16u_C1R(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16u_C3R(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16u_C4R(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16u_AC4R(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16s_C1R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16s_C3R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16s_C4R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+QVN_API QvnStatus qvniConvert_32f16s_AC4R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
+
+/* One-channel conversions: exact, except 32s and 32u to 32f, which round to
+ * nearest with halves to even. Steps are not tested. */
+QVN_API QvnStatus qvniConvert_8s16s_C1R(const Qvn8s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s64f_C1R(const Qvn8s* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16u32u_C1R(const Qvn16u* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s32f_C1R(const Qvn32s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32u32f_C1R(const Qvn32u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+
+/* Saturating signed-to-unsigned conversions: negative values become 0, the
+ * others are copied. Steps are not tested. */
+QVN_API QvnStatus qvniConvert_8s8u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s16u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_8s32u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s16u_C1Rs(const Qvn16s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_16s32u_C1Rs(const Qvn16s* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniConvert_32s32u_C1Rs(const Qvn32s* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
+
+/* Scaled integer conversions: each value is multiplied by 2^-scaleFactor
+ * (any factor; a negative one multiplies by a power of two), rounded to
+ * nearest with halves to even and saturated. Checks: pointers, ROI, steps. */
+QVN_API QvnStatus qvniConvert_8u8s_C1RSfs(const Qvn8u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_16u8s_C1RSfs(const Qvn16u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_16u16s_C1RSfs(const Qvn16u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_16s8s_C1RSfs(const Qvn16s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32s16u_C1RSfs(const Qvn32s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32s16s_C1RSfs(const Qvn32s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32u8u_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32u8s_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32u16u_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32u16s_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32u32s_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+
+/* Scaled conversions from floats: each value is multiplied by 2^-scaleFactor,
+ * then values not below the destination maximum give the maximum, values not
+ * above its minimum give the minimum, NaN gives 0, and the rest is rounded by
+ * roundMode. Any scale factor gives the exactly scaled value, however far it
+ * lies outside the exponent range. Checks: pointers, ROI, steps, then the
+ * mode. The in-place 32f to 32u form reuses the source memory. */
+QVN_API QvnStatus qvniConvert_32f8u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f8s_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f16u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f16s_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f32s_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_64f8u_C1RSfs(const Qvn64f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_64f8s_C1RSfs(const Qvn64f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_64f16u_C1RSfs(const Qvn64f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_64f16s_C1RSfs(const Qvn64f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f32u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+QVN_API QvnStatus qvniConvert_32f32u_C1IRSfs(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
+
+/* Range mapping from 8u: d = s * 257 (16u), s * 257 - 32768 (16s),
+ * s * 16843009 - 2147483648 (32s), so 0 and 255 map to the ends of the
+ * destination range. Checks: pointers, ROI, steps. */
+QVN_API QvnStatus qvniScale_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16u_C3R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16u_C4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16s_C1R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16s_C3R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16s_C4R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u16s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u32s_C1R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u32s_C3R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u32s_C4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniScale_8u32s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+
+/* Range mapping to 8u: the source type's range onto 0..255, d = (s - min) /
+ * 257 (16u, 16s) or / 16843009 (32s), rounded to nearest (never a tie). Every
+ * hint gives this exact result. Checks: pointers, ROI, steps, hint. */
+QVN_API QvnStatus qvniScale_16u8u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16u8u_C3R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16u8u_C4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16u8u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16s8u_C1R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16s8u_C3R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16s8u_C4R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_16s8u_AC4R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_32s8u_C1R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_32s8u_C3R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_32s8u_C4R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScale_32s8u_AC4R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
+
+/* Range mapping with float bounds. 8u to 32f: d = s * ((vMax - vMin) / 255)
+ * + vMin. 32f to 8u: d = s * k + b with k = 255 / (vMax - vMin) and b = -vMin
+ * * k, clamped to 0..255 and rounded to nearest with halves to even (NaN
+ * gives 0); all in float. vMax - vMin not greater than 0 gives
+ * qvnErrScaleRange before any other check; then pointers, ROI, steps. */
+QVN_API QvnStatus qvniScale_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_8u32f_C3R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_8u32f_C4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_8u32f_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_32f8u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_32f8u_C3R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_32f8u_C4R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+QVN_API QvnStatus qvniScale_32f8u_AC4R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
+
+/* Linear mapping d = s * mVal + aVal, computed in double; integer results are
+ * rounded to nearest with halves to even and saturated (NaN gives 0), 32f
+ * results rounded to nearest. Every hint gives this result. Checks: pointers,
+ * ROI, steps, hint. */
+QVN_API QvnStatus qvniScaleC_8u8s_C1R(const Qvn8u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u16s_C1R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u32s_C1R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u64f_C1R(const Qvn8u* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s8u_C1R(const Qvn8s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s16u_C1R(const Qvn8s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s16s_C1R(const Qvn8s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s32s_C1R(const Qvn8s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s32f_C1R(const Qvn8s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s64f_C1R(const Qvn8s* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u8u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u8s_C1R(const Qvn16u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u16s_C1R(const Qvn16u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u32s_C1R(const Qvn16u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u32f_C1R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u64f_C1R(const Qvn16u* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s8u_C1R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s8s_C1R(const Qvn16s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s16u_C1R(const Qvn16s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s32s_C1R(const Qvn16s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s32f_C1R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s64f_C1R(const Qvn16s* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s8u_C1R(const Qvn32s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s8s_C1R(const Qvn32s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s16u_C1R(const Qvn32s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s16s_C1R(const Qvn32s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s32f_C1R(const Qvn32s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s64f_C1R(const Qvn32s* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f8u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f8s_C1R(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f16u_C1R(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f16s_C1R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f32s_C1R(const Qvn32f* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f64f_C1R(const Qvn32f* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f8u_C1R(const Qvn64f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f8s_C1R(const Qvn64f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f16u_C1R(const Qvn64f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f16s_C1R(const Qvn64f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f32s_C1R(const Qvn64f* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f32f_C1R(const Qvn64f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s_C1R(const Qvn8s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_8s_C1IR(Qvn8s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f_C1R(const Qvn64f* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+QVN_API QvnStatus qvniScaleC_64f_C1IR(Qvn64f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
+
+/* 1-bit to grey: each pixel becomes hiVal where its bit is 1, loVal where it
+ * is 0. Eight pixels per byte, the first in the most significant bit;
+ * srcBitOffset (0..7) is the bit of the first ROI pixel, counted from the
+ * most significant one. Checks: pointers, ROI, steps, then the offset
+ * (outside 0..7: qvnErrArgRange). */
+QVN_API QvnStatus qvniBinToGray_1u8u_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u loVal, Qvn8u hiVal);
+QVN_API QvnStatus qvniBinToGray_1u16u_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u loVal, Qvn16u hiVal);
+QVN_API QvnStatus qvniBinToGray_1u16s_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s loVal, Qvn16s hiVal);
+QVN_API QvnStatus qvniBinToGray_1u32f_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f loVal, Qvn32f hiVal);
+
+/* Grey to 1-bit: a pixel greater than threshold sets its bit, any other
+ * (NaN too) clears it. Bits are packed as for qvniBinToGray from dstBitOffset
+ * on; bits of the first and last byte of a row outside the ROI keep their
+ * value. Checks: pointers, ROI, steps, then the offset (outside 0..7:
+ * qvnErrArgRange). */
+QVN_API QvnStatus qvniGrayToBin_8u1u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn8u threshold);
+QVN_API QvnStatus qvniGrayToBin_16u1u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn16u threshold);
+QVN_API QvnStatus qvniGrayToBin_16s1u_C1R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn16s threshold);
+QVN_API QvnStatus qvniGrayToBin_32f1u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn32f threshold);
+
 /* Copies the ROI; AC4 leaves the destination alpha as it is. Steps are not
  * tested. */
 QVN_API QvnStatus qvniCopy_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);

@@ -344,6 +344,26 @@ inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm_cvtps_epi32(a.v)}; }
 // Converts rounding toward zero; out-of-range lanes give INT32_MIN.
 inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm_cvttps_epi32(a.v)}; }
 
+// ---- type conversion and scaling ------------------------------------------------------
+// Double lanes from the low two int32 lanes (exact).
+inline Vec<double> toDoubleLo(Vec<std::int32_t> a) { return {_mm_cvtepi32_pd(a.v)}; }
+// Double lanes from the low or high two float lanes (exact).
+inline Vec<double> toDoubleLo(Vec<float> a) { return {_mm_cvtps_pd(a.v)}; }
+inline Vec<double> toDoubleHi(Vec<float> a) { return {_mm_cvtps_pd(_mm_movehl_ps(a.v, a.v))}; }
+// Two double vectors to four int32 lanes (lo's two, then hi's two), rounded by
+// the current rounding control; out-of-range lanes give INT32_MIN.
+inline Vec<std::int32_t> toInt(Vec<double> lo, Vec<double> hi) {
+    return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(lo.v), _mm_cvtpd_epi32(hi.v))};
+}
+// Two double vectors to four float lanes, rounded by the current control.
+inline Vec<float> toFloat(Vec<double> lo, Vec<double> hi) {
+    return {_mm_movelh_ps(_mm_cvtpd_ps(lo.v), _mm_cvtpd_ps(hi.v))};
+}
+// The low 32 bits of each 64-bit lane of lo, then of hi.
+inline Vec<std::uint32_t> lowHalves(Vec<double> lo, Vec<double> hi) {
+    return {_mm_castps_si128(_mm_shuffle_ps(_mm_castpd_ps(lo.v), _mm_castpd_ps(hi.v), 0x88))};
+}
+
 // ---- rounding control -------------------------------------------------------------------
 inline constexpr unsigned kRoundNearest = 0x0000;
 inline constexpr unsigned kRoundTowardZero = 0x6000;

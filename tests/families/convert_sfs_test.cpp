@@ -1,0 +1,118 @@
+// qvniConvert with scale factors against the reference models.
+#include <gtest/gtest.h>
+
+#include <climits>
+
+#include "families/convert_sweep.h"
+#include "ref/convert_ref.h"
+
+namespace qvn::test {
+namespace {
+
+// Scale factors on the ordinary paths, then far outside every exponent range.
+const int kUsualFactors[] = {0, 1, 2, 7, -1, -3};
+const int kExtremeFactors[] = {16, 31, 33, 140, 160, 1030, 1080, -40, -130, -1100, INT_MAX, INT_MIN};
+
+template <class S, class D, class Call>
+void allFactors(const Call& call, int mode) {
+    for (int sf : kUsualFactors) {
+        SCOPED_TRACE(testing::Message() << "scale factor " << sf << " mode " << mode);
+        const auto ref = [=](S s) { return ref::scaled<D>(s, sf, mode); };
+        sweep<S, D>(1, false, [&](auto... a) { return call(a..., sf); }, ref);
+        if (sf == 1) exhaustive<S, D>([&](auto... a) { return call(a..., sf); }, ref);
+    }
+    for (int sf : kExtremeFactors) {
+        SCOPED_TRACE(testing::Message() << "scale factor " << sf << " mode " << mode);
+        const auto ref = [=](S s) { return ref::scaled<D>(s, sf, mode); };
+        checkOne<S, D>(37, 3, 1, false, -1, true, std::uint32_t(sf), [&](auto... a) { return call(a..., sf); }, ref);
+    }
+}
+
+#define QVN_SFS(S, D, fn) \
+    allFactors<S, D>([](auto s, int ss, auto d, int ds, QvnRoiSize r, int sf) { return fn(s, ss, d, ds, r, sf); }, 1)
+
+TEST(ConvertSfs, IntegerSourcesRoundHalvesToEven) {
+    QVN_SFS(Qvn8u, Qvn8s, qvniConvert_8u8s_C1RSfs);
+    QVN_SFS(Qvn16u, Qvn8s, qvniConvert_16u8s_C1RSfs);
+    QVN_SFS(Qvn16u, Qvn16s, qvniConvert_16u16s_C1RSfs);
+    QVN_SFS(Qvn16s, Qvn8s, qvniConvert_16s8s_C1RSfs);
+    QVN_SFS(Qvn32s, Qvn16u, qvniConvert_32s16u_C1RSfs);
+    QVN_SFS(Qvn32s, Qvn16s, qvniConvert_32s16s_C1RSfs);
+    QVN_SFS(Qvn32u, Qvn8u, qvniConvert_32u8u_C1RSfs);
+    QVN_SFS(Qvn32u, Qvn8s, qvniConvert_32u8s_C1RSfs);
+    QVN_SFS(Qvn32u, Qvn16u, qvniConvert_32u16u_C1RSfs);
+    QVN_SFS(Qvn32u, Qvn16s, qvniConvert_32u16s_C1RSfs);
+    QVN_SFS(Qvn32u, Qvn32s, qvniConvert_32u32s_C1RSfs);
+}
+
+#define QVN_RND_SFS(S, D, fn)                                                                                  \
+    allFactors<S, D>(                                                                                          \
+        [mode](auto s, int ss, auto d, int ds, QvnRoiSize r, int sf) { return fn(s, ss, d, ds, r, mode, sf); }, \
+        mode)
+
+TEST(ConvertSfs, FloatSourcesRoundByMode) {
+    for (int mode : {qvnRndZero, qvnRndNear, qvnRndFinancial}) {
+        QVN_RND_SFS(Qvn32f, Qvn8u, qvniConvert_32f8u_C1RSfs);
+        QVN_RND_SFS(Qvn32f, Qvn8s, qvniConvert_32f8s_C1RSfs);
+        QVN_RND_SFS(Qvn32f, Qvn16u, qvniConvert_32f16u_C1RSfs);
+        QVN_RND_SFS(Qvn32f, Qvn16s, qvniConvert_32f16s_C1RSfs);
+        QVN_RND_SFS(Qvn32f, Qvn32s, qvniConvert_32f32s_C1RSfs);
+        QVN_RND_SFS(Qvn32f, Qvn32u, qvniConvert_32f32u_C1RSfs);
+        QVN_RND_SFS(Qvn64f, Qvn8u, qvniConvert_64f8u_C1RSfs);
+        QVN_RND_SFS(Qvn64f, Qvn8s, qvniConvert_64f8s_C1RSfs);
+        QVN_RND_SFS(Qvn64f, Qvn16u, qvniConvert_64f16u_C1RSfs);
+        QVN_RND_SFS(Qvn64f, Qvn16s, qvniConvert_64f16s_C1RSfs);
+    }
+}
+
+TEST(ConvertSfs, InPlace32fTo32u) {
+    for (int mode : {qvnRndZero, qvnRndNear, qvnRndFinancial})
+        for (int sf : {0, 3, -2})
+            for (int w : {1, 5, 16, 37}) {
+                GuardedImage<Qvn32f> img({w, 3, 1, -1, w == 37, std::uint32_t(w + sf)});
+                fillSource(img, std::uint32_t(w * 3 + mode));
+                std::vector<Qvn32f> src;
+                for (int y = 0; y < 3; ++y)
+                    for (int x = 0; x < w; ++x) src.push_back(img.at(x, y));
+                ASSERT_EQ(qvniConvert_32f32u_C1IRSfs(img.data(), int(img.step()), {w, 3}, mode, sf), qvnOk);
+                for (int y = 0; y < 3; ++y)
+                    for (int x = 0; x < w; ++x) {
+                        Qvn32u got;
+                        std::memcpy(&got, &img.at(x, y), 4);
+                        ASSERT_EQ(got, ref::scaled<Qvn32u>(src[y * w + x], sf, mode))
+                            << "(" << x << ", " << y << ") from " << src[y * w + x] << " mode " << mode;
+                    }
+                img.expectUntouchedOutsideRoi();
+            }
+}
+
+TEST(ConvertSfs, DocumentedExamples) {
+    const Qvn64f v[6] = {2.5, 3.5, 2.9, 300.0, -3.0, 255.5};
+    const Qvn8u want[3][6] = {{2, 3, 2, 255, 0, 255}, {2, 4, 3, 255, 0, 255}, {3, 4, 3, 255, 0, 255}};
+    for (int mode = 0; mode < 3; ++mode) {
+        Qvn8u d[6] = {};
+        ASSERT_EQ(qvniConvert_64f8u_C1RSfs(v, 48, d, 6, {6, 1}, mode, 0), qvnOk);
+        for (int i = 0; i < 6; ++i) EXPECT_EQ(d[i], want[mode][i]) << "mode " << mode << " value " << v[i];
+    }
+    // 5 * 2^-1 = 2.5 rounds to 2; 7 * 2^-1 = 3.5 to 4; 3 * 2^2 = 12.
+    const Qvn16u s[3] = {5, 7, 3};
+    Qvn8s d[3];
+    ASSERT_EQ(qvniConvert_16u8s_C1RSfs(s, 6, d, 3, {2, 1}, 1), qvnOk);
+    EXPECT_EQ(d[0], 2);
+    EXPECT_EQ(d[1], 4);
+    ASSERT_EQ(qvniConvert_16u8s_C1RSfs(s + 2, 6, d, 3, {1, 1}, -2), qvnOk);
+    EXPECT_EQ(d[0], 12);
+}
+
+TEST(ConvertSfs, Validation) {
+    GuardedImage<Qvn64f> src({4, 2, 1, 1, false, 3});
+    GuardedImage<Qvn16s> dst({4, 2, 1, 1, false, 4});
+    const int ss = int(src.step()), ds = int(dst.step());
+    EXPECT_EQ(qvniConvert_64f16s_C1RSfs(src.data(), ss, dst.data(), ds, {4, 2}, 3, 0), qvnErrRounding);
+    EXPECT_EQ(qvniConvert_64f16s_C1RSfs(src.data(), -8, dst.data(), ds, {4, 2}, 3, 0), qvnErrStep);
+    EXPECT_EQ(qvniConvert_32f32u_C1IRSfs(nullptr, ss, {4, 2}, 3, 0), qvnErrNullPointer);
+    dst.expectUnchanged();
+}
+
+}  // namespace
+}  // namespace qvn::test

@@ -1,0 +1,175 @@
+// qvniScale and qvniScaleC against the reference models.
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <vector>
+
+#include "families/convert_sweep.h"
+#include "ref/convert_ref.h"
+
+namespace qvn::test {
+namespace {
+
+#define QVN_SCALE_LAYOUTS(S, D, stem, ref, ...)                            \
+    do {                                                                   \
+        sweep<S, D>(1, false, QVN_CALL_ARGS(stem##_C1R, __VA_ARGS__), ref); \
+        sweep<S, D>(3, false, QVN_CALL_ARGS(stem##_C3R, __VA_ARGS__), ref); \
+        sweep<S, D>(4, false, QVN_CALL_ARGS(stem##_C4R, __VA_ARGS__), ref); \
+        sweep<S, D>(4, true, QVN_CALL_ARGS(stem##_AC4R, __VA_ARGS__), ref); \
+        exhaustive<S, D>(QVN_CALL_ARGS(stem##_C1R, __VA_ARGS__), ref);     \
+    } while (0)
+
+template <class S, class D>
+auto rangeRef() {
+    return [](S s) { return ref::scaleRange<S, D>(s); };
+}
+
+TEST(Scale, IntegerRangesMapEndToEnd) {
+    const auto plain = [](auto fn) {
+        return [fn](const auto* s, int ss, auto* d, int ds, QvnRoiSize r) { return fn(s, ss, d, ds, r); };
+    };
+    sweep<Qvn8u, Qvn16u>(1, false, plain(qvniScale_8u16u_C1R), rangeRef<Qvn8u, Qvn16u>());
+    sweep<Qvn8u, Qvn16u>(4, true, plain(qvniScale_8u16u_AC4R), rangeRef<Qvn8u, Qvn16u>());
+    sweep<Qvn8u, Qvn16s>(3, false, plain(qvniScale_8u16s_C3R), rangeRef<Qvn8u, Qvn16s>());
+    sweep<Qvn8u, Qvn16s>(4, false, plain(qvniScale_8u16s_C4R), rangeRef<Qvn8u, Qvn16s>());
+    sweep<Qvn8u, Qvn32s>(3, false, plain(qvniScale_8u32s_C3R), rangeRef<Qvn8u, Qvn32s>());
+    sweep<Qvn8u, Qvn32s>(4, true, plain(qvniScale_8u32s_AC4R), rangeRef<Qvn8u, Qvn32s>());
+    exhaustive<Qvn8u, Qvn32s>(plain(qvniScale_8u32s_C1R), rangeRef<Qvn8u, Qvn32s>());
+    for (int hint : {0, 1, 2}) {
+        QVN_SCALE_LAYOUTS(Qvn16u, Qvn8u, qvniScale_16u8u, (rangeRef<Qvn16u, Qvn8u>()), hint);
+        QVN_SCALE_LAYOUTS(Qvn16s, Qvn8u, qvniScale_16s8u, (rangeRef<Qvn16s, Qvn8u>()), hint);
+        QVN_SCALE_LAYOUTS(Qvn32s, Qvn8u, qvniScale_32s8u, (rangeRef<Qvn32s, Qvn8u>()), hint);
+    }
+    const Qvn32s ends[2] = {-2147483647 - 1, 2147483647};
+    Qvn8u d[2];
+    ASSERT_EQ(qvniScale_32s8u_C1R(ends, 8, d, 2, {2, 1}, 0), qvnOk);
+    EXPECT_EQ(d[0], 0);
+    EXPECT_EQ(d[1], 255);
+}
+
+TEST(Scale, FloatRanges) {
+    const float ranges[][2] = {{0, 1}, {-1, 1}, {10, 265.5f}, {-1000, 3000.25f}, {0, 255}};
+    for (const auto& r : ranges) {
+        const float lo = r[0], hi = r[1];
+        SCOPED_TRACE(testing::Message() << "range " << lo << ".." << hi);
+        const auto to8u = [=](Qvn32f s) { return ref::scale32f8u(s, lo, hi); };
+        QVN_SCALE_LAYOUTS(Qvn32f, Qvn8u, qvniScale_32f8u, to8u, lo, hi);
+        const auto to32f = [=](Qvn8u s) {
+            const float k = (hi - lo) / 255.0f;
+            const float p = float(s) * k;
+            return p + lo;
+        };
+        QVN_SCALE_LAYOUTS(Qvn8u, Qvn32f, qvniScale_8u32f, to32f, lo, hi);
+    }
+    const Qvn32f v[4] = {0.5f, 2.0f, -1.0f, 0.0f};
+    Qvn8u d[4];
+    ASSERT_EQ(qvniScale_32f8u_C1R(v, 16, d, 4, {4, 1}, 0.0f, 1.0f), qvnOk);
+    EXPECT_EQ(d[0], 128);  // 127.5 rounds to the even 128
+    EXPECT_EQ(d[1], 255);
+    EXPECT_EQ(d[2], 0);
+    EXPECT_EQ(d[3], 0);
+}
+
+TEST(Scale, Validation) {
+    GuardedImage<Qvn8u> dst({4, 2, 1, 1, false, 4});
+    GuardedImage<Qvn32f> src({4, 2, 1, 1, false, 3});
+    const int ss = int(src.step()), ds = int(dst.step());
+    // The range comes before everything, NaN ranges included.
+    EXPECT_EQ(qvniScale_32f8u_C1R(nullptr, ss, dst.data(), ds, {4, 2}, 1.0f, 1.0f), qvnErrScaleRange);
+    EXPECT_EQ(qvniScale_32f8u_C3R(src.data(), ss, dst.data(), 0, {0, 2}, 2.0f, 1.0f), qvnErrScaleRange);
+    EXPECT_EQ(qvniScale_32f8u_C1R(src.data(), ss, dst.data(), ds, {4, 2}, 0.0f, NAN), qvnErrScaleRange);
+    EXPECT_EQ(qvniScale_8u32f_C1R(dst.data(), ds, nullptr, ss, {4, 2}, 5.0f, -5.0f), qvnErrScaleRange);
+    EXPECT_EQ(qvniScale_32f8u_C1R(nullptr, ss, dst.data(), ds, {0, 2}, 0.0f, 1.0f), qvnErrNullPointer);
+    EXPECT_EQ(qvniScale_32f8u_C1R(src.data(), ss, dst.data(), ds, {4, 0}, 0.0f, 1.0f), qvnErrSize);
+    EXPECT_EQ(qvniScale_32f8u_AC4R(src.data(), 0, dst.data(), ds, {1, 2}, 0.0f, 1.0f), qvnErrStep);
+    // Hints: a kind above 2 or a reserved bit fails after the steps.
+    const Qvn16u* s16 = reinterpret_cast<const Qvn16u*>(src.data());
+    EXPECT_EQ(qvniScale_16u8u_C1R(s16, ss, dst.data(), ds, {4, 2}, 3), qvnErrAlgorithm);
+    EXPECT_EQ(qvniScale_16u8u_C1R(s16, ss, dst.data(), ds, {4, 2}, 0x10000), qvnErrAlgorithm);
+    EXPECT_EQ(qvniScale_16u8u_C1R(s16, 0, dst.data(), ds, {4, 2}, 3), qvnErrStep);
+    EXPECT_EQ(qvniScaleC_16u8u_C1R(s16, ss, dst.data(), ds, {4, 2}, 1.0, 0.0, 3), qvnErrAlgorithm);
+    EXPECT_EQ(qvniScaleC_8u_C1IR(dst.data(), ds, {4, 2}, 1.0, 0.0, 0x800000), qvnErrAlgorithm);
+    dst.expectUnchanged();
+}
+
+// Multipliers and offsets: identity, exact halves, thirds, saturating and
+// overflowing ones.
+const double kMaps[][2] = {{1, 0}, {0.5, 0}, {-1, 0.5}, {1.0 / 3, 100000}, {2.5, -3.75}, {-1e10, 0}, {3e38, 1}};
+
+template <class S, class D, class Fn>
+void scaleCAll(Fn fn) {
+    for (const auto& m : kMaps) {
+        const double mul = m[0], add = m[1];
+        SCOPED_TRACE(testing::Message() << "mVal " << mul << " aVal " << add);
+        const auto ref = [=](S s) {
+            const double p = double(s) * mul;
+            return ref::to<D>(p + add);
+        };
+        const auto call = [&](const S* s, int ss, D* d, int ds, QvnRoiSize r) {
+            return fn(s, ss, d, ds, r, mul, add, 0);
+        };
+        sweep<S, D>(1, false, call, ref);
+        if (mul == 0.5) exhaustive<S, D>(call, ref);
+    }
+}
+
+// In place: the image holds the source before and the result after.
+template <class T, class Fn>
+void scaleCInPlace(Fn fn) {
+    for (const auto& m : kMaps)
+        for (int w : {1, 17, 40}) {
+            GuardedImage<T> img({w, 2, 1, -1, w == 17, std::uint32_t(w)});
+            fillSource(img, std::uint32_t(w * 5));
+            std::vector<T> src;
+            for (int y = 0; y < 2; ++y)
+                for (int x = 0; x < w; ++x) src.push_back(img.at(x, y));
+            ASSERT_EQ(fn(img.data(), int(img.step()), QvnRoiSize{w, 2}, m[0], m[1], 2), qvnOk);
+            for (int y = 0; y < 2; ++y)
+                for (int x = 0; x < w; ++x) {
+                    const T want = ref::to<T>(double(src[y * w + x]) * m[0] + m[1]);
+                    ASSERT_TRUE(sameValue(img.at(x, y), want))
+                        << "(" << x << ", " << y << ") got " << printable(img.at(x, y)) << " want " << printable(want);
+                }
+            img.expectUntouchedOutsideRoi();
+        }
+}
+
+TEST(ScaleC, EveryPair) {
+#define QVN_SC(S, D, tok) scaleCAll<S, D>(qvniScaleC_##tok##_C1R)
+#define QVN_SC_FROM(S, s)                                                                                   \
+    QVN_SC(S, Qvn8u, s##8u);                                                                                \
+    QVN_SC(S, Qvn8s, s##8s);                                                                                \
+    QVN_SC(S, Qvn16u, s##16u);                                                                              \
+    QVN_SC(S, Qvn16s, s##16s);                                                                              \
+    QVN_SC(S, Qvn32s, s##32s);                                                                              \
+    QVN_SC(S, Qvn32f, s##32f);                                                                              \
+    QVN_SC(S, Qvn64f, s##64f)
+    // Same-type forms appear in each row through the token without a pair.
+#define qvniScaleC_8u8u_C1R qvniScaleC_8u_C1R
+#define qvniScaleC_8s8s_C1R qvniScaleC_8s_C1R
+#define qvniScaleC_16u16u_C1R qvniScaleC_16u_C1R
+#define qvniScaleC_16s16s_C1R qvniScaleC_16s_C1R
+#define qvniScaleC_32s32s_C1R qvniScaleC_32s_C1R
+#define qvniScaleC_32f32f_C1R qvniScaleC_32f_C1R
+#define qvniScaleC_64f64f_C1R qvniScaleC_64f_C1R
+    QVN_SC_FROM(Qvn8u, 8u);
+    QVN_SC_FROM(Qvn8s, 8s);
+    QVN_SC_FROM(Qvn16u, 16u);
+    QVN_SC_FROM(Qvn16s, 16s);
+    QVN_SC_FROM(Qvn32s, 32s);
+    QVN_SC_FROM(Qvn32f, 32f);
+    QVN_SC_FROM(Qvn64f, 64f);
+}
+
+TEST(ScaleC, InPlace) {
+    scaleCInPlace<Qvn8u>(qvniScaleC_8u_C1IR);
+    scaleCInPlace<Qvn8s>(qvniScaleC_8s_C1IR);
+    scaleCInPlace<Qvn16u>(qvniScaleC_16u_C1IR);
+    scaleCInPlace<Qvn16s>(qvniScaleC_16s_C1IR);
+    scaleCInPlace<Qvn32s>(qvniScaleC_32s_C1IR);
+    scaleCInPlace<Qvn32f>(qvniScaleC_32f_C1IR);
+    scaleCInPlace<Qvn64f>(qvniScaleC_64f_C1IR);
+}
+
+}  // namespace
+}  // namespace qvn::test
