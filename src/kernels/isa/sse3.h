@@ -456,6 +456,28 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
     out[0] = x, out[1] = y, out[2] = z;
 }
 
+// ---- three-element 8u pixels without a byte shuffle (copy, dup and swap family) ----
+// Two 4-byte pixels per 64-bit lane become 6 bytes: lane bytes 0-2 keep the
+// first pixel's bytes 0-2, bytes 3-5 take the second pixel's bytes 0-2; bytes
+// 6 and 7 hold leftovers for the caller to overwrite.
+inline Vec<std::uint8_t> packPairs4to3(Vec<std::uint8_t> x) {
+    const __m128i first = _mm_set1_epi64x(0x0000000000FFFFFFll);
+    const __m128i second = _mm_set1_epi64x(0x0000FFFFFF000000ll);
+    return {_mm_or_si128(_mm_and_si128(x.v, first), _mm_and_si128(_mm_srli_epi64(x.v, 8), second))};
+}
+// The high 8 bytes to p (any alignment).
+template <class T>
+inline void storeHigh(T* p, Vec<T> a) {
+    _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castsi128_pd(bits(a)));
+}
+// 8 bytes from lo into the low half and 8 bytes from hi into the high half
+// (any alignment).
+template <class T>
+inline Vec<T> loadHalves(const T* lo, const T* hi) {
+    const __m128d l = _mm_castsi128_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(lo)));
+    return fromBits<T>(_mm_castpd_si128(_mm_loadh_pd(l, reinterpret_cast<const double*>(hi))));
+}
+
 }  // namespace isa
 QVN_TARGET_END
 
