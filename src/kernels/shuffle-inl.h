@@ -251,11 +251,6 @@ inline void storePacked3(std::uint8_t* d, isa::Vec<std::uint8_t> x) {
     isa::storeHigh(d + 6, v);
 }
 
-// Sixteen 4-byte pixels in four vectors as 48 bytes at d; writes d[0..50).
-inline void storePacked3x4(std::uint8_t* d, const isa::Vec<std::uint8_t> px[4]) {
-    for (int k = 0; k < 4; ++k) storePacked3(d + 12 * k, px[k]);
-}
-
 // The first three bytes of each 4-byte source pixel (AC4C3, and C4C3 in
 // channel order).
 inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
@@ -264,7 +259,9 @@ inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n
     for (; x < n; ++x) d[3 * x] = s[4 * x], d[3 * x + 1] = s[4 * x + 1], d[3 * x + 2] = s[4 * x + 2];
 }
 
-// One byte into the three bytes of each pixel (Dup C1C3).
+// One byte into the three bytes of each pixel (Dup C1C3). Each value is
+// spread to four bytes; a 64-bit lane of two such pixels shifted down by one
+// byte holds the first value three times, then the second three times.
 inline void dup3Row(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     using V = isa::Vec<std::uint8_t>;
     using W = isa::Vec<std::uint16_t>;
@@ -272,27 +269,43 @@ inline void dup3Row(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     for (; x + 17 <= n; x += 16) {
         const V g = isa::loadU(s + x);
         const W lo = isa::cast<std::uint16_t>(isa::zipLo(g, g)), hi = isa::cast<std::uint16_t>(isa::zipHi(g, g));
-        // each value four times: the pairs then pack to three copies each
-        const V px[4] = {isa::cast<std::uint8_t>(isa::zipLo(lo, lo)), isa::cast<std::uint8_t>(isa::zipHi(lo, lo)),
-                         isa::cast<std::uint8_t>(isa::zipLo(hi, hi)), isa::cast<std::uint8_t>(isa::zipHi(hi, hi))};
-        storePacked3x4(d + 3 * x, px);
+        const W quad[4] = {isa::zipLo(lo, lo), isa::zipHi(lo, lo), isa::zipLo(hi, hi), isa::zipHi(hi, hi)};
+        for (int k = 0; k < 4; ++k) {
+            const V v = isa::cast<std::uint8_t>(isa::shiftRight<8>(isa::cast<std::uint64_t>(quad[k])));
+            isa::storeLow(d + 3 * x + 12 * k, v);
+            isa::storeHigh(d + 3 * x + 12 * k + 6, v);
+        }
     }
     for (; x < n; ++x) d[3 * x] = d[3 * x + 1] = d[3 * x + 2] = s[x];
 }
 
-// Three planes into three-byte pixels (P3C3).
+// Three planes into three-byte pixels (P3C3). Two pixels are the three 16-bit
+// words (r0 g0) (b0 r1) (g1 b1); each is an AND/OR of the planes read as
+// 16-bit lanes, and two rounds of word zips put the three words of pair k
+// into 64-bit lane k (the fourth word is left over and overwritten).
 inline void merge3Row(const std::uint8_t* const s[3], std::uint8_t* d, std::int64_t n) {
     using V = isa::Vec<std::uint8_t>;
     using W = isa::Vec<std::uint16_t>;
+    using D = isa::Vec<std::uint32_t>;
+    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
     std::int64_t x = 0;
     for (; x + 17 <= n; x += 16) {
-        const V r = isa::loadU(s[0] + x), g = isa::loadU(s[1] + x), b = isa::loadU(s[2] + x);
-        const W rgLo = isa::cast<std::uint16_t>(isa::zipLo(r, g)), rgHi = isa::cast<std::uint16_t>(isa::zipHi(r, g));
-        const W bbLo = isa::cast<std::uint16_t>(isa::zipLo(b, b)), bbHi = isa::cast<std::uint16_t>(isa::zipHi(b, b));
-        // r g b b pixels: the repeated b is the byte that packing drops
-        const V px[4] = {isa::cast<std::uint8_t>(isa::zipLo(rgLo, bbLo)), isa::cast<std::uint8_t>(isa::zipHi(rgLo, bbLo)),
-                         isa::cast<std::uint8_t>(isa::zipLo(rgHi, bbHi)), isa::cast<std::uint8_t>(isa::zipHi(rgHi, bbHi))};
-        storePacked3x4(d + 3 * x, px);
+        const W r = isa::cast<std::uint16_t>(isa::loadU(s[0] + x)), g = isa::cast<std::uint16_t>(isa::loadU(s[1] + x)),
+                b = isa::cast<std::uint16_t>(isa::loadU(s[2] + x));
+        const W rg = isa::bitOr(isa::bitAnd(r, low), isa::shiftLeft<8>(g));   // r even, g even
+        const W br = isa::bitOr(isa::bitAnd(b, low), isa::bitAnd(r, high));   // b even, r odd
+        const W gb = isa::bitOr(isa::shiftRight<8>(g), isa::bitAnd(b, high)); // g odd, b odd
+        const D first[2] = {isa::cast<std::uint32_t>(isa::zipLo(rg, br)), isa::cast<std::uint32_t>(isa::zipHi(rg, br))};
+        const D third[2] = {isa::cast<std::uint32_t>(isa::zipLo(gb, gb)), isa::cast<std::uint32_t>(isa::zipHi(gb, gb))};
+        for (int h = 0; h < 2; ++h) {
+            const V a = isa::cast<std::uint8_t>(isa::zipLo(first[h], third[h]));
+            const V c = isa::cast<std::uint8_t>(isa::zipHi(first[h], third[h]));
+            std::uint8_t* p = d + 3 * x + 24 * h;
+            isa::storeLow(p, a);
+            isa::storeHigh(p + 6, a);
+            isa::storeLow(p + 12, c);
+            isa::storeHigh(p + 18, c);
+        }
     }
     for (; x < n; ++x) d[3 * x] = s[0][x], d[3 * x + 1] = s[1][x], d[3 * x + 2] = s[2][x];
 }
