@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "kernels/target.h"
@@ -465,17 +466,23 @@ inline Vec<std::uint8_t> packPairs4to3(Vec<std::uint8_t> x) {
     const __m128i second = _mm_set1_epi64x(0x0000FFFFFF000000ll);
     return {_mm_or_si128(_mm_and_si128(x.v, first), _mm_and_si128(_mm_srli_epi64(x.v, 8), second))};
 }
-// The high 8 bytes to p (any alignment).
+// The high 8 bytes to p (any alignment). The bytes go through memcpy, which
+// the compiler folds into one high-half store, because the intrinsic is a
+// typed double store that p need not be aligned for.
 template <class T>
 inline void storeHigh(T* p, Vec<T> a) {
-    _mm_storeh_pd(reinterpret_cast<double*>(p), _mm_castsi128_pd(bits(a)));
+    const __m128d v = _mm_castsi128_pd(bits(a));
+    const double high = _mm_cvtsd_f64(_mm_unpackhi_pd(v, v));
+    std::memcpy(p, &high, sizeof high);
 }
 // 8 bytes from lo into the low half and 8 bytes from hi into the high half
-// (any alignment).
+// (any alignment; memcpy again stands for an unaligned high-half load).
 template <class T>
 inline Vec<T> loadHalves(const T* lo, const T* hi) {
     const __m128d l = _mm_castsi128_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(lo)));
-    return fromBits<T>(_mm_castpd_si128(_mm_loadh_pd(l, reinterpret_cast<const double*>(hi))));
+    double high;
+    std::memcpy(&high, hi, sizeof high);
+    return fromBits<T>(_mm_castpd_si128(_mm_loadh_pd(l, &high)));
 }
 
 }  // namespace isa
