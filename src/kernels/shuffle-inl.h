@@ -310,6 +310,42 @@ inline void merge3Row(const std::uint8_t* const s[3], std::uint8_t* d, std::int6
     for (; x < n; ++x) d[3 * x] = s[0][x], d[3 * x + 1] = s[1][x], d[3 * x + 2] = s[2][x];
 }
 
+// Three-byte pixels into three planes (C3P3), the reverse of merge3Row: each
+// 64-bit lane is loaded with a pair of pixels, (r0 g0) (b0 r1) (g1 b1) and a
+// leftover word; a 16-bit four-way deinterleave gathers those words of eight
+// pairs, and AND/OR of their bytes gives the planes.
+template <class Store>
+inline void split3Row(const std::uint8_t* s, std::uint8_t* const d[3], std::int64_t n) {
+    using W = isa::Vec<std::uint16_t>;
+    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
+    const auto pixel = [&](std::int64_t x) {
+        d[0][x] = s[3 * x], d[1][x] = s[3 * x + 1], d[2][x] = s[3 * x + 2];
+    };
+    const auto body = [&](std::int64_t x, auto store) {
+        for (; x + 17 <= n; x += 16) {
+            const std::uint8_t* p = s + 3 * x;
+            const W in[4] = {isa::cast<std::uint16_t>(isa::loadHalves(p, p + 6)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 12, p + 18)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 24, p + 30)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 36, p + 42))};
+            W words[4];
+            isa::deinterleave4(in, words);
+            store(d[0] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[0], low), isa::bitAnd(words[1], high))));
+            store(d[1] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::shiftRight<8>(words[0]), isa::shiftLeft<8>(words[2]))));
+            store(d[2] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[1], low), isa::bitAnd(words[2], high))));
+        }
+        return x;
+    };
+    std::int64_t x = commonHead<std::uint8_t, 3>(d, n);
+    if (x < 0) {
+        x = body(0, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { isa::storeU(q, v); });
+    } else {
+        for (std::int64_t h = 0; h < x; ++h) pixel(h);
+        x = body(x, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { Store::store(q, v); });
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
 // Pixels of three elements into channels 1 to 3 of pixels of four; channel 0
 // keeps its value (SwapChannels C3C4 with the order {above 3, 0, 1, 2}).
 // Destination pixel x, from its channel 0 on, lines up with the four source

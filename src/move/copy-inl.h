@@ -210,7 +210,10 @@ inline QvnStatus toPlanar(const T* src, S srcStep, T* const* dst, S dstStep, Roi
                 roi,
                 [](const T* s, T* d0, T* d1, T* d2, std::int64_t n) {
                     T* const d[3] = {d0, d1, d2};
-                    kernels::toPlanes<T, 3, Store>(s, d, n);
+                    if constexpr (std::is_same_v<T, Qvn8u>)
+                        kernels::split3Row<Store>(s, d, n);
+                    else
+                        kernels::toPlanes<T, 3, Store>(s, d, n);
                 },
                 rows(src, srcStep, 3), rows(dst[0], dstStep, 1), rows(dst[1], dstStep, 1),
                 rows(dst[2], dstStep, 1));

@@ -1,5 +1,5 @@
 // The rows that write three-element 8u pixels with overlapping 8-byte stores,
-// and the row that puts three-element pixels behind an untouched channel 0:
+// the one that reads them as overlapping 8-byte pairs into planes, and the row that puts three-element pixels behind an untouched channel 0:
 // every count around their vector steps, every pointer misalignment within a
 // vector, against the element-by-element rule. Sources end exactly at the end
 // of their allocation (and start at it when not shifted), so the sanitizer
@@ -60,19 +60,25 @@ TEST(ThreeElementRows, PackedRowsMatchTheRuleAtEveryCountAndAlignment) {
             for (int ld = 0; ld < 16; ++ld) {
                 Source<std::uint8_t> four(ls, 4 * n, rng), one(ls, n, rng), r(ls, n, rng), g(0, n, rng), b(ld, n, rng);
                 Dest<std::uint8_t> drop(ld, 3 * n), dup(ld, 3 * n), merge(ld, 3 * n);
+                Source<std::uint8_t> three(ls, 3 * n, rng);
+                Dest<std::uint8_t> split[3] = {{ld, n}, {ld, n}, {ld % 2 ? (ld + 5) % 16 : ld, n}};  // planes aligned together or not
                 kernels::dropFourthRow(four.p, drop.p(), n);
                 kernels::dup3Row(one.p, dup.p(), n);
                 const std::uint8_t* const planes[3] = {r.p, g.p, b.p};
                 kernels::merge3Row(planes, merge.p(), n);
+                std::uint8_t* const outPlanes[3] = {split[0].p(), split[1].p(), split[2].p()};
+                kernels::split3Row<kernels::StoreRegular>(three.p, outPlanes, n);
                 for (int x = 0; x < n; ++x)
                     for (int c = 0; c < 3; ++c) {
                         ASSERT_EQ(drop.p()[3 * x + c], four.p[4 * x + c]) << "AC4C3 n " << n << " at " << x << "," << c;
                         ASSERT_EQ(dup.p()[3 * x + c], one.p[x]) << "Dup n " << n << " at " << x << "," << c;
                         ASSERT_EQ(merge.p()[3 * x + c], planes[c][x]) << "P3C3 n " << n << " at " << x << "," << c;
+                        ASSERT_EQ(outPlanes[c][x], three.p[3 * x + c]) << "C3P3 n " << n << " at " << x << "," << c;
                     }
                 drop.expectSentinelsAround("AC4C3", n);
                 dup.expectSentinelsAround("Dup", n);
                 merge.expectSentinelsAround("P3C3", n);
+                for (const auto& plane : split) plane.expectSentinelsAround("C3P3", n);
             }
 }
 
