@@ -346,6 +346,37 @@ inline void split3Row(const std::uint8_t* s, std::uint8_t* const d[3], std::int6
     for (; x < n; ++x) pixel(x);
 }
 
+// Four-element pixels with channels 0 and 2 exchanged and channel 3 copied
+// (KeepLast: left as it is), the order {2, 1, 0, 3} of BGRA and RGBA. One
+// word shuffle per vector; each vector is read before it is written, so s
+// may be d.
+template <class T, bool KeepLast>
+inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kPixels = std::int64_t(16 / (4 * sizeof(T)));
+    const auto pixel = [&](std::int64_t x) {
+        const T c0 = s[4 * x], c1 = s[4 * x + 1], c2 = s[4 * x + 2], c3 = s[4 * x + 3];
+        d[4 * x] = c2, d[4 * x + 1] = c1, d[4 * x + 2] = c0;
+        if constexpr (!KeepLast) d[4 * x + 3] = c3;
+    };
+    std::int64_t x = 0;
+    while (x < kPixels && x < n && !isa::aligned16(d + 4 * x)) ++x;
+    if (x == kPixels) x = 0;  // never aligned: unaligned stores from the start
+    for (std::int64_t h = 0; h < x; ++h) pixel(h);
+    V last = isa::zero<T>();
+    {
+        alignas(16) T lane[16 / sizeof(T)];
+        for (std::size_t e = 0; e < 16 / sizeof(T); ++e) std::memset(&lane[e], e % 4 == 3 ? 0xFF : 0, sizeof(T));
+        last = isa::loadA(lane);
+    }
+    for (; x + kPixels <= n; x += kPixels) {
+        V v = isa::swapFirstAndThird(isa::loadU(s + 4 * x));
+        if constexpr (KeepLast) v = isa::select(last, isa::loadU(d + 4 * x), v);
+        isa::storeU(d + 4 * x, v);
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
 // Pixels of three elements into channels 1 to 3 of pixels of four; channel 0
 // keeps its value (SwapChannels C3C4 with the order {above 3, 0, 1, 2}).
 // Destination pixel x, from its channel 0 on, lines up with the four source

@@ -101,6 +101,20 @@ inline QvnStatus shuffle(const T* src, S srcStep, T* dst, S dstStep, RoiL roi,
     // operations per vector, where the planes route needs interleaving steps
     // and picks planes by run-time indices. In place they would read what the
     // row already wrote, so those go through the planes.
+    if constexpr (KS == 4 && KD == 4) {
+        // {2, 1, 0, 3} (alpha copied or kept): one word shuffle per vector,
+        // in place too
+        if (map.from[0] == 2 && map.from[1] == 1 && map.from[2] == 0 && (map.keep & 0x7) == 0) {
+            if (map.keep == 0x8)
+                return forEachRow(
+                    roi, [](const T* s, T* d, std::int64_t n) { kernels::swapFirstAndThirdRow<T, true>(s, d, n); },
+                    rows(src, srcStep, KS), rows(dst, dstStep, KD));
+            if (map.keep == 0 && map.from[3] == 3)
+                return forEachRow(
+                    roi, [](const T* s, T* d, std::int64_t n) { kernels::swapFirstAndThirdRow<T, false>(s, d, n); },
+                    rows(src, srcStep, KS), rows(dst, dstStep, KD));
+        }
+    }
     if constexpr (KS == KD && KS >= 3) {
         bool sourceOnly = src != dst;  // offset loads would read what the row already wrote
         for (int c = 0; c < KD; ++c) sourceOnly &= map.from[c] < KS;

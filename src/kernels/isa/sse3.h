@@ -485,6 +485,24 @@ inline Vec<T> loadHalves(const T* lo, const T* hi) {
     return fromBits<T>(_mm_castpd_si128(_mm_loadh_pd(l, &high)));
 }
 
+// Elements 0 and 2 of every four-element pixel exchanged (a reversal of the
+// first three channels that keeps the fourth): word shuffles, plus a byte
+// select for 8-bit lanes.
+template <class T>
+inline Vec<T> swapFirstAndThird(Vec<T> a) {
+    if constexpr (sizeof(T) == 1) {
+        // words swapped in each dword give c2 c3 c0 c1: keep its even bytes
+        const __m128i t = _mm_shufflehi_epi16(_mm_shufflelo_epi16(a.v, 0xB1), 0xB1);
+        const __m128i even = _mm_set1_epi16(0x00FF);
+        return {_mm_or_si128(_mm_and_si128(even, t), _mm_andnot_si128(even, a.v))};
+    } else if constexpr (sizeof(T) == 2) {
+        return fromBits<T>(_mm_shufflehi_epi16(_mm_shufflelo_epi16(bits(a), 0xC6), 0xC6));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_shuffle_epi32(bits(a), 0xC6));
+    }
+}
+
 }  // namespace isa
 QVN_TARGET_END
 
