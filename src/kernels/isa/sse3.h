@@ -457,7 +457,7 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
     out[0] = x, out[1] = y, out[2] = z;
 }
 
-// ---- three-element 8u pixels without a byte shuffle (copy, dup and swap family) ----
+// ---- channel shuffles without a byte shuffle (copy, dup and swap family) ----------
 // Two 4-byte pixels per 64-bit lane become 6 bytes: lane bytes 0-2 keep the
 // first pixel's bytes 0-2, bytes 3-5 take the second pixel's bytes 0-2; bytes
 // 6 and 7 hold leftovers for the caller to overwrite.
