@@ -255,6 +255,8 @@ inline void storePacked3(std::uint8_t* d, isa::Vec<std::uint8_t> x) {
 // channel order).
 inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     std::int64_t x = 0;
+    for (; x + 17 <= n; x += 16)  // four groups per step: less loop overhead per store
+        for (int k = 0; k < 4; ++k) storePacked3(d + 3 * x + 12 * k, isa::loadU(s + 4 * x + 16 * k));
     for (; x + 5 <= n; x += 4) storePacked3(d + 3 * x, isa::loadU(s + 4 * x));
     for (; x < n; ++x) d[3 * x] = s[4 * x], d[3 * x + 1] = s[4 * x + 1], d[3 * x + 2] = s[4 * x + 2];
 }
