@@ -97,10 +97,6 @@ inline QvnStatus copyChannel(const T* src, S srcStep, T* dst, S dstStep, RoiL ro
 template <class T, int KS, int KD, class S>
 inline QvnStatus shuffle(const T* src, S srcStep, T* dst, S dstStep, RoiL roi,
                          const kernels::PixelMap<T, KS, KD>& map) {
-    // Pixels reorder fastest by offset loads: a few loads and logic
-    // operations per vector, where the planes route needs interleaving steps
-    // and picks planes by run-time indices. In place they would read what the
-    // row already wrote, so those go through the planes.
     if constexpr (KS == 4 && KD == 4) {
         // {2, 1, 0, 3} (alpha copied or kept): one word shuffle per vector,
         // in place too
@@ -115,6 +111,10 @@ inline QvnStatus shuffle(const T* src, S srcStep, T* dst, S dstStep, RoiL roi,
                     rows(src, srcStep, KS), rows(dst, dstStep, KD));
         }
     }
+    // Other orders reorder fastest by offset loads: a few loads and logic
+    // operations per vector, where the planes route needs interleaving steps
+    // and picks planes by run-time indices. In place they would read what the
+    // row already wrote, so those go through the planes.
     if constexpr (KS == KD && KS >= 3) {
         bool sourceOnly = src != dst;  // offset loads would read what the row already wrote
         for (int c = 0; c < KD; ++c) sourceOnly &= map.from[c] < KS;
