@@ -85,17 +85,46 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
     for (; x < n; ++x) pixel(x);
 }
 
-// Reorders the channels of pixels of K elements into another image (not in
-// place): element i of the destination is source element i + from[c] - c, c
-// being i's channel. Each distinct offset from[c] - c is one unaligned load
-// of the source row masked to the lanes that use it, so the body costs a few
-// loads and logic operations per vector whatever the order. Channels in
-// map.keep are left as they are.
+// Vector body of permuteRow with N distinct offsets: element e of the
+// destination is the OR of the source row loaded at e + offsets[j] and masked
+// to the lanes that take offset j (and of the destination itself masked to
+// the kept lanes when Keep). Runs whole periods of the channel pattern from
+// i while they end by end; returns where it stopped.
+template <class T, int K, int N, bool Keep>
+inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t end, const int* offsets,
+                                const isa::Vec<T> (*lanes)[3], const isa::Vec<T>* keep) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1;
+    const T* from[N];
+    V mask[N][kPeriod], kept[kPeriod];
+    for (int j = 0; j < N; ++j) {
+        from[j] = s + offsets[j];
+        for (int k = 0; k < kPeriod; ++k) mask[j][k] = lanes[j][k];
+    }
+    for (int k = 0; k < kPeriod; ++k) kept[k] = keep[k];
+    for (; i + kPeriod * kLanes <= end; i += kPeriod * kLanes)
+        for (int k = 0; k < kPeriod; ++k) {
+            const std::int64_t e = i + k * kLanes;
+            V v = isa::bitAnd(mask[0][k], isa::loadU(from[0] + e));
+            for (int j = 1; j < N; ++j) v = isa::bitOr(v, isa::bitAnd(mask[j][k], isa::loadU(from[j] + e)));
+            if constexpr (Keep) v = isa::bitOr(v, isa::bitAnd(kept[k], isa::loadA(d + e)));
+            isa::storeA(d + e, v);
+        }
+    return i;
+}
+
+// Reorders the channels of pixels of K elements (3 or 4) into another image
+// (not in place): element i of the destination is source element
+// i + from[c] - c, c being i's channel. Each distinct offset from[c] - c is one
+// unaligned load of the source row masked to the lanes that use it, so the
+// body costs a few loads and logic operations per vector whatever the order;
+// the number of offsets is fixed once per row so that the masks stay in
+// registers. Channels in map.keep are left as they are.
 template <class T, int K>
 inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>& map) {
     using V = isa::Vec<T>;
     constexpr std::int64_t kLanes = isa::kLanes<T>;
-    constexpr int kPeriod = K == 3 ? 3 : 1;
     const std::int64_t total = n * K;
     const auto one = [&](std::int64_t i) {
         const int c = int(i % K);
@@ -108,8 +137,8 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
     const std::int64_t end = total - K;
     for (std::int64_t h = 0; h < i && h < total; ++h) one(h);
     if (i + kLanes <= end) {
-        int offsets[2 * K - 1], count = 0;
-        V lanes[2 * K - 1][3], keep[3];
+        int offsets[K] = {}, count = 0;
+        V lanes[K][3], keep[3];
         for (int off = -(K - 1); off <= K - 1; ++off) {
             unsigned chans = 0;
             for (int c = 0; c < K; ++c)
@@ -119,11 +148,22 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
             offsets[count++] = off;
         }
         channelLanes<T, K>(i, map.keep, keep);
-        for (int k = 0; i + kLanes <= end; i += kLanes, k = k + 1 == kPeriod ? 0 : k + 1) {
-            V v = map.keep ? isa::bitAnd(keep[k], isa::loadA(d + i)) : isa::zero<T>();
-            for (int j = 0; j < count; ++j)
-                v = isa::bitOr(v, isa::bitAnd(lanes[j][k], isa::loadU(s + i + offsets[j])));
-            isa::storeA(d + i, v);
+        const bool kept = map.keep != 0;
+        if constexpr (K == 4) {
+            if (kept) {
+                if (count == 1) i = permuteBody<T, K, 1, true>(s, d, i, end, offsets, lanes, keep);
+                else if (count == 2) i = permuteBody<T, K, 2, true>(s, d, i, end, offsets, lanes, keep);
+                else if (count == 3) i = permuteBody<T, K, 3, true>(s, d, i, end, offsets, lanes, keep);
+            } else {
+                if (count == 1) i = permuteBody<T, K, 1, false>(s, d, i, end, offsets, lanes, keep);
+                else if (count == 2) i = permuteBody<T, K, 2, false>(s, d, i, end, offsets, lanes, keep);
+                else if (count == 3) i = permuteBody<T, K, 3, false>(s, d, i, end, offsets, lanes, keep);
+                else if (count == 4) i = permuteBody<T, K, 4, false>(s, d, i, end, offsets, lanes, keep);
+            }
+        } else if (!kept) {  // three-element swaps keep no channel
+            if (count == 1) i = permuteBody<T, K, 1, false>(s, d, i, end, offsets, lanes, keep);
+            else if (count == 2) i = permuteBody<T, K, 2, false>(s, d, i, end, offsets, lanes, keep);
+            else if (count == 3) i = permuteBody<T, K, 3, false>(s, d, i, end, offsets, lanes, keep);
         }
     }
     for (; i < total; ++i) one(i);
@@ -192,6 +232,201 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
     } else {
         for (std::int64_t h = 0; h < x; ++h) pixel(h);
         x = body(x, [](T* p, V v) { Store::store(p, v); });
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
+// ---- 8u rows that write three-element pixels ---------------------------------
+// SSE2 has no byte shuffle, so these build the 3-byte pixels from 4-byte ones:
+// packPairs4to3 turns each 64-bit lane (two 4-byte pixels) into 6 bytes, and
+// two 8-byte stores write the lanes 6 bytes apart. The 2 leftover bytes of
+// each store land on the next pixel, which a later store (or the scalar tail)
+// writes again, so the body must stop where its last store still ends inside
+// the row.
+
+// Four 4-byte pixels (x) as 12 bytes at d; writes d[0..14).
+inline void storePacked3(std::uint8_t* d, isa::Vec<std::uint8_t> x) {
+    const isa::Vec<std::uint8_t> v = isa::packPairs4to3(x);
+    isa::storeLow(d, v);
+    isa::storeHigh(d + 6, v);
+}
+
+// The first three bytes of each 4-byte source pixel (AC4C3, and C4C3 in
+// channel order).
+inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    std::int64_t x = 0;
+    for (; x + 17 <= n; x += 16)  // four groups per step: less loop overhead per store
+        for (int k = 0; k < 4; ++k) storePacked3(d + 3 * x + 12 * k, isa::loadU(s + 4 * x + 16 * k));
+    for (; x + 5 <= n; x += 4) storePacked3(d + 3 * x, isa::loadU(s + 4 * x));
+    for (; x < n; ++x) d[3 * x] = s[4 * x], d[3 * x + 1] = s[4 * x + 1], d[3 * x + 2] = s[4 * x + 2];
+}
+
+// One byte into the three bytes of each pixel (Dup C1C3). Each value is
+// spread to four bytes; a 64-bit lane of two such pixels shifted down by one
+// byte holds the first value three times, then the second three times.
+inline void dup3Row(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    using V = isa::Vec<std::uint8_t>;
+    using W = isa::Vec<std::uint16_t>;
+    std::int64_t x = 0;
+    for (; x + 17 <= n; x += 16) {
+        const V g = isa::loadU(s + x);
+        const W lo = isa::cast<std::uint16_t>(isa::zipLo(g, g)), hi = isa::cast<std::uint16_t>(isa::zipHi(g, g));
+        const W quad[4] = {isa::zipLo(lo, lo), isa::zipHi(lo, lo), isa::zipLo(hi, hi), isa::zipHi(hi, hi)};
+        for (int k = 0; k < 4; ++k) {
+            const V v = isa::cast<std::uint8_t>(isa::shiftRight<8>(isa::cast<std::uint64_t>(quad[k])));
+            isa::storeLow(d + 3 * x + 12 * k, v);
+            isa::storeHigh(d + 3 * x + 12 * k + 6, v);
+        }
+    }
+    for (; x < n; ++x) d[3 * x] = d[3 * x + 1] = d[3 * x + 2] = s[x];
+}
+
+// Three planes into three-byte pixels (P3C3). Two pixels are the three 16-bit
+// words (r0 g0) (b0 r1) (g1 b1); each is an AND/OR of the planes read as
+// 16-bit lanes, and two rounds of word zips put the three words of pair k
+// into 64-bit lane k (the fourth word is left over and overwritten).
+inline void merge3Row(const std::uint8_t* const s[3], std::uint8_t* d, std::int64_t n) {
+    using V = isa::Vec<std::uint8_t>;
+    using W = isa::Vec<std::uint16_t>;
+    using D = isa::Vec<std::uint32_t>;
+    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
+    std::int64_t x = 0;
+    for (; x + 17 <= n; x += 16) {
+        const W r = isa::cast<std::uint16_t>(isa::loadU(s[0] + x)), g = isa::cast<std::uint16_t>(isa::loadU(s[1] + x)),
+                b = isa::cast<std::uint16_t>(isa::loadU(s[2] + x));
+        const W rg = isa::bitOr(isa::bitAnd(r, low), isa::shiftLeft<8>(g));   // r even, g even
+        const W br = isa::bitOr(isa::bitAnd(b, low), isa::bitAnd(r, high));   // b even, r odd
+        const W gb = isa::bitOr(isa::shiftRight<8>(g), isa::bitAnd(b, high)); // g odd, b odd
+        const D first[2] = {isa::cast<std::uint32_t>(isa::zipLo(rg, br)), isa::cast<std::uint32_t>(isa::zipHi(rg, br))};
+        const D third[2] = {isa::cast<std::uint32_t>(isa::zipLo(gb, gb)), isa::cast<std::uint32_t>(isa::zipHi(gb, gb))};
+        for (int h = 0; h < 2; ++h) {
+            const V a = isa::cast<std::uint8_t>(isa::zipLo(first[h], third[h]));
+            const V c = isa::cast<std::uint8_t>(isa::zipHi(first[h], third[h]));
+            std::uint8_t* p = d + 3 * x + 24 * h;
+            isa::storeLow(p, a);
+            isa::storeHigh(p + 6, a);
+            isa::storeLow(p + 12, c);
+            isa::storeHigh(p + 18, c);
+        }
+    }
+    for (; x < n; ++x) d[3 * x] = s[0][x], d[3 * x + 1] = s[1][x], d[3 * x + 2] = s[2][x];
+}
+
+// Three-byte pixels into three planes (C3P3), the reverse of merge3Row: each
+// 64-bit lane is loaded with a pair of pixels, (r0 g0) (b0 r1) (g1 b1) and a
+// leftover word; a 16-bit four-way deinterleave gathers those words of eight
+// pairs, and AND/OR of their bytes gives the planes.
+template <class Store>
+inline void split3Row(const std::uint8_t* s, std::uint8_t* const d[3], std::int64_t n) {
+    using W = isa::Vec<std::uint16_t>;
+    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
+    const auto pixel = [&](std::int64_t x) {
+        d[0][x] = s[3 * x], d[1][x] = s[3 * x + 1], d[2][x] = s[3 * x + 2];
+    };
+    const auto body = [&](std::int64_t x, auto store) {
+        for (; x + 17 <= n; x += 16) {
+            const std::uint8_t* p = s + 3 * x;
+            const W in[4] = {isa::cast<std::uint16_t>(isa::loadHalves(p, p + 6)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 12, p + 18)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 24, p + 30)),
+                             isa::cast<std::uint16_t>(isa::loadHalves(p + 36, p + 42))};
+            W words[4];
+            isa::deinterleave4(in, words);
+            store(d[0] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[0], low), isa::bitAnd(words[1], high))));
+            store(d[1] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::shiftRight<8>(words[0]), isa::shiftLeft<8>(words[2]))));
+            store(d[2] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[1], low), isa::bitAnd(words[2], high))));
+        }
+        return x;
+    };
+    std::int64_t x = commonHead<std::uint8_t, 3>(d, n);
+    if (x < 0) {
+        x = body(0, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { isa::storeU(q, v); });
+    } else {
+        for (std::int64_t h = 0; h < x; ++h) pixel(h);
+        x = body(x, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { Store::store(q, v); });
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
+// Four-element pixels with channels 0 and 2 exchanged and channel 3 copied
+// (KeepLast: left as it is), the order {2, 1, 0, 3} of BGRA and RGBA. One
+// word shuffle per vector; each vector is read before it is written, so s
+// may be d.
+template <class T, bool KeepLast>
+inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kPixels = std::int64_t(16 / (4 * sizeof(T)));
+    const auto pixel = [&](std::int64_t x) {
+        const T c0 = s[4 * x], c1 = s[4 * x + 1], c2 = s[4 * x + 2], c3 = s[4 * x + 3];
+        d[4 * x] = c2, d[4 * x + 1] = c1, d[4 * x + 2] = c0;
+        if constexpr (!KeepLast) d[4 * x + 3] = c3;
+    };
+    std::int64_t x = 0;
+    while (x < kPixels && x < n && !isa::aligned16(d + 4 * x)) ++x;
+    if (x == kPixels) x = 0;  // never aligned: unaligned stores from the start
+    for (std::int64_t h = 0; h < x; ++h) pixel(h);
+    V last = isa::zero<T>();
+    {
+        alignas(16) T lane[16 / sizeof(T)];
+        for (std::size_t e = 0; e < 16 / sizeof(T); ++e) std::memset(&lane[e], e % 4 == 3 ? 0xFF : 0, sizeof(T));
+        last = isa::loadA(lane);
+    }
+    for (; x + kPixels <= n; x += kPixels) {
+        V v = isa::swapFirstAndThird(isa::loadU(s + 4 * x));
+        if constexpr (KeepLast) v = isa::select(last, isa::loadU(d + 4 * x), v);
+        isa::storeU(d + 4 * x, v);
+    }
+    for (; x < n; ++x) pixel(x);
+}
+
+// Pixels of three elements into channels 1 to 3 of pixels of four; channel 0
+// keeps its value (SwapChannels C3C4 with the order {above 3, 0, 1, 2}).
+// Destination pixel x, from its channel 0 on, lines up with the four source
+// elements that start one element before source pixel x, so the body loads
+// the source at 3x - 1 and takes lane 0 of each pixel from the destination.
+// How channel 0 is preserved: the scalar head and tail never write it; the
+// vector body loads the destination vector, and its store puts back the
+// channel-0 lanes exactly as they were loaded (no byte changes value), so the
+// call reads channel 0 but leaves it as it was.
+template <class T>
+inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
+    using V = isa::Vec<T>;
+    constexpr std::int64_t kPixels = std::int64_t(16 / (4 * sizeof(T))) > 0 ? 16 / (4 * sizeof(T)) : 1;
+    const auto pixel = [&](std::int64_t x) {
+        d[4 * x + 1] = s[3 * x], d[4 * x + 2] = s[3 * x + 1], d[4 * x + 3] = s[3 * x + 2];
+    };
+    // the first pixel has no element before it; further head pixels align
+    // the destination when a pixel boundary ever is aligned
+    std::int64_t x = 1;
+    while (x < n && x <= kPixels && !isa::aligned16(d + 4 * x)) ++x;
+    if (x > kPixels) x = 1;
+    for (std::int64_t h = 0; h < x && h < n; ++h) pixel(h);
+    // lanes of channel 0
+    V first;
+    {
+        alignas(16) T lane[16 / sizeof(T)];
+        for (std::size_t e = 0; e < 16 / sizeof(T); ++e) std::memset(&lane[e], e % 4 == 0 ? 0xFF : 0, sizeof(T));
+        first = isa::loadA(lane);
+    }
+    if constexpr (sizeof(T) == 1) {
+        // two pixels per 64-bit lane: the lane loaded at 3x - 1 holds pixel
+        // x's dword in bytes 0-3 and pixel x + 1's from byte 3 on, so the
+        // upper dword comes from the lane shifted up by one byte
+        const V low = isa::cast<T>(isa::set1<std::uint64_t>(0x00000000FFFFFF00ull));
+        const V high = isa::cast<T>(isa::set1<std::uint64_t>(0xFFFFFF0000000000ull));
+        for (; x + 5 <= n; x += 4) {
+            const V y = isa::loadHalves(s + 3 * x - 1, s + 3 * x + 5);
+            const V shifted = isa::cast<T>(isa::shiftLeft<8>(isa::cast<std::uint64_t>(y)));
+            const V v = isa::bitOr(isa::bitAnd(low, y), isa::bitAnd(high, shifted));
+            isa::storeU(d + 4 * x, isa::bitOr(v, isa::bitAnd(first, isa::loadU(d + 4 * x))));
+        }
+    } else if constexpr (sizeof(T) == 2) {
+        for (; x + 2 <= n; x += 2) {
+            const V y = isa::loadHalves(s + 3 * x - 1, s + 3 * x + 2);
+            isa::storeU(d + 4 * x, isa::select(first, isa::loadU(d + 4 * x), y));
+        }
+    } else {
+        for (; x + 1 <= n; ++x) isa::storeU(d + 4 * x, isa::select(first, isa::loadU(d + 4 * x), isa::loadU(s + 3 * x - 1)));
     }
     for (; x < n; ++x) pixel(x);
 }

@@ -97,9 +97,25 @@ inline QvnStatus copyChannel(const T* src, S srcStep, T* dst, S dstStep, RoiL ro
 template <class T, int KS, int KD, class S>
 inline QvnStatus shuffle(const T* src, S srcStep, T* dst, S dstStep, RoiL roi,
                          const kernels::PixelMap<T, KS, KD>& map) {
-    // Three-element pixels reorder fastest by offset loads (the planes route
-    // needs the costly three-way interleave); four-element ones by planes.
-    if constexpr (KS == 3 && KD == 3) {
+    if constexpr (KS == 4 && KD == 4) {
+        // {2, 1, 0, 3} (alpha copied or kept): one word shuffle per vector,
+        // in place too
+        if (map.from[0] == 2 && map.from[1] == 1 && map.from[2] == 0 && (map.keep & 0x7) == 0) {
+            if (map.keep == 0x8)
+                return forEachRow(
+                    roi, [](const T* s, T* d, std::int64_t n) { kernels::swapFirstAndThirdRow<T, true>(s, d, n); },
+                    rows(src, srcStep, KS), rows(dst, dstStep, KD));
+            if (map.keep == 0 && map.from[3] == 3)
+                return forEachRow(
+                    roi, [](const T* s, T* d, std::int64_t n) { kernels::swapFirstAndThirdRow<T, false>(s, d, n); },
+                    rows(src, srcStep, KS), rows(dst, dstStep, KD));
+        }
+    }
+    // Other orders reorder fastest by offset loads: a few loads and logic
+    // operations per vector, where the planes route needs interleaving steps
+    // and picks planes by run-time indices. In place they would read what the
+    // row already wrote, so those go through the planes.
+    if constexpr (KS == KD && KS >= 3) {
         bool sourceOnly = src != dst;  // offset loads would read what the row already wrote
         for (int c = 0; c < KD; ++c) sourceOnly &= map.from[c] < KS;
         if (sourceOnly)
@@ -130,13 +146,24 @@ inline QvnStatus insert(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
     return shuffle<T, 1, L::kElems>(src, srcStep, dst, dstStep, roi, {{}, kOthers, T(0), true});
 }
 
+// The first three channels of four-element pixels (AC4C3, and C4C3 in
+// channel order), without checks.
+template <class T, class S>
+inline QvnStatus dropFourth(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
+    if constexpr (std::is_same_v<T, Qvn8u>)
+        return forEachRow(roi, [](const T* s, T* d, std::int64_t n) { kernels::dropFourthRow(s, d, n); },
+                          rows(src, srcStep, 4), rows(dst, dstStep, 3));
+    else
+        return shuffle<T, 4, 3>(src, srcStep, dst, dstStep, roi, {{0, 1, 2}});
+}
+
 // AC4C3: the three colour channels; C3AC4: into the colour channels, alpha
 // not written.
 template <class T, class S>
 inline QvnStatus dropAlpha(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
     QVN_TRY(check::ptrs(src, dst));
     QVN_TRY(check::roi(roi));
-    return shuffle<T, 4, 3>(src, srcStep, dst, dstStep, roi, {{0, 1, 2}});
+    return dropFourth(src, srcStep, dst, dstStep, roi);
 }
 template <class T, class S>
 inline QvnStatus addAlpha(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
@@ -150,7 +177,11 @@ template <class T, class L, class S>
 inline QvnStatus dup(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
     QVN_TRY(check::ptrs(src, dst));
     QVN_TRY(check::roi(roi));
-    return shuffle<T, 1, L::kElems>(src, srcStep, dst, dstStep, roi, kernels::PixelMap<T, 1, L::kElems>{});
+    if constexpr (std::is_same_v<T, Qvn8u> && L::kElems == 3)
+        return forEachRow(roi, [](const T* s, T* d, std::int64_t n) { kernels::dup3Row(s, d, n); },
+                          rows(src, srcStep, 1), rows(dst, dstStep, 3));
+    else
+        return shuffle<T, 1, L::kElems>(src, srcStep, dst, dstStep, roi, kernels::PixelMap<T, 1, L::kElems>{});
 }
 
 // Planar copies that bypass the cache for large images: 16s and 32s both
@@ -193,7 +224,10 @@ inline QvnStatus toPlanar(const T* src, S srcStep, T* const* dst, S dstStep, Roi
                 roi,
                 [](const T* s, T* d0, T* d1, T* d2, std::int64_t n) {
                     T* const d[3] = {d0, d1, d2};
-                    kernels::toPlanes<T, 3, Store>(s, d, n);
+                    if constexpr (std::is_same_v<T, Qvn8u>)
+                        kernels::split3Row<Store>(s, d, n);
+                    else
+                        kernels::toPlanes<T, 3, Store>(s, d, n);
                 },
                 rows(src, srcStep, 3), rows(dst[0], dstStep, 1), rows(dst[1], dstStep, 1),
                 rows(dst[2], dstStep, 1));
@@ -223,7 +257,10 @@ inline QvnStatus fromPlanar(const T* const* src, S srcStep, T* dst, S dstStep, R
                 roi,
                 [](const T* s0, const T* s1, const T* s2, T* d, std::int64_t n) {
                     const T* const s[3] = {s0, s1, s2};
-                    kernels::fromPlanes<T, 3, Store>(s, d, n);
+                    if constexpr (std::is_same_v<T, Qvn8u> && std::is_same_v<Store, kernels::StoreRegular>)
+                        kernels::merge3Row(s, d, n);
+                    else
+                        kernels::fromPlanes<T, 3, Store>(s, d, n);
                 },
                 rows(src[0], srcStep, 1), rows(src[1], srcStep, 1), rows(src[2], srcStep, 1),
                 rows(dst, dstStep, 3));

@@ -87,13 +87,16 @@ inline QvnStatus swapC4C3(const T* src, S srcStep, T* dst, S dstStep, RoiL roi, 
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::nonzeroSteps(srcStep, dstStep));
     QVN_TRY(orderBelow(order, 3, 4));
+    if (order[0] == 0 && order[1] == 1 && order[2] == 2) return dropFourth(src, srcStep, dst, dstStep, roi);
     return shuffle<T, 4, 3>(src, srcStep, dst, dstStep, roi, orderMap<4, 3, T>(order));
 }
 
 // Four entries: 0..2 a source channel, 3 the fill value, above 3 the
 // destination channel keeps its value. The common order {keep, 0, 1, 2}
-// (three channels behind an untouched first one) runs through the same
-// vector map as every other order.
+// (three channels behind an untouched first one) has its own row, chosen
+// here once per call: each destination pixel from channel 0 on lines up
+// with the source elements from one before the source pixel, so it needs no
+// interleaving (kernels::behindFirstRow tells how channel 0 is kept).
 template <class T, class S>
 inline QvnStatus swapC3C4(const T* src, S srcStep, T* dst, S dstStep, RoiL roi, const int* order, T fill) {
     QVN_TRY(check::ptrs(src, dst, order));
@@ -101,6 +104,9 @@ inline QvnStatus swapC3C4(const T* src, S srcStep, T* dst, S dstStep, RoiL roi, 
     QVN_TRY(check::nonzeroSteps(srcStep, dstStep));
     for (int c = 0; c < 4; ++c)
         if (order[c] < 0) return qvnErrChannelOrder;
+    if (order[0] > 3 && order[1] == 0 && order[2] == 1 && order[3] == 2)
+        return forEachRow(roi, [](const T* s, T* d, std::int64_t n) { kernels::behindFirstRow(s, d, n); },
+                          rows(src, srcStep, 3), rows(dst, dstStep, 4));
     kernels::PixelMap<T, 3, 4> map{};
     map.fill = fill;
     for (int c = 0; c < 4; ++c) {

@@ -31,7 +31,7 @@ int gOrder[4];
 
 TEST(SwapChannels, EveryLayoutAndType) {
     const int orders3[][4] = {{2, 1, 0}, {1, 1, 0}};
-    const int orders4[][4] = {{3, 2, 1, 0}, {1, 3, 3, 0}};
+    const int orders4[][4] = {{3, 2, 1, 0}, {1, 3, 3, 0}, {2, 1, 0, 3}};  // the last has its own row
     for (const auto& o : orders3) {
         std::copy(o, o + 4, gOrder);
 #define X(t, T)                                                                                         \

@@ -14,6 +14,7 @@
 
 #include <cstddef>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "kernels/target.h"
@@ -474,6 +475,52 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
         x = a, y = b, z = c;
     }
     out[0] = x, out[1] = y, out[2] = z;
+}
+
+// ---- channel shuffles without a byte shuffle (copy, dup and swap family) ----------
+// Two 4-byte pixels per 64-bit lane become 6 bytes: lane bytes 0-2 keep the
+// first pixel's bytes 0-2, bytes 3-5 take the second pixel's bytes 0-2; bytes
+// 6 and 7 hold leftovers for the caller to overwrite.
+inline Vec<std::uint8_t> packPairs4to3(Vec<std::uint8_t> x) {
+    const __m128i first = _mm_set1_epi64x(0x0000000000FFFFFFll);
+    const __m128i second = _mm_set1_epi64x(0x0000FFFFFF000000ll);
+    return {_mm_or_si128(_mm_and_si128(x.v, first), _mm_and_si128(_mm_srli_epi64(x.v, 8), second))};
+}
+// The high 8 bytes to p (any alignment). The bytes go through memcpy, which
+// the compiler folds into one high-half store, because the intrinsic is a
+// typed double store that p need not be aligned for.
+template <class T>
+inline void storeHigh(T* p, Vec<T> a) {
+    const __m128d v = _mm_castsi128_pd(bits(a));
+    const double high = _mm_cvtsd_f64(_mm_unpackhi_pd(v, v));
+    std::memcpy(p, &high, sizeof high);
+}
+// 8 bytes from lo into the low half and 8 bytes from hi into the high half
+// (any alignment; memcpy again stands for an unaligned high-half load).
+template <class T>
+inline Vec<T> loadHalves(const T* lo, const T* hi) {
+    const __m128d l = _mm_castsi128_pd(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(lo)));
+    double high;
+    std::memcpy(&high, hi, sizeof high);
+    return fromBits<T>(_mm_castpd_si128(_mm_loadh_pd(l, &high)));
+}
+
+// Elements 0 and 2 of every four-element pixel exchanged (a reversal of the
+// first three channels that keeps the fourth): word shuffles, plus a byte
+// select for 8-bit lanes.
+template <class T>
+inline Vec<T> swapFirstAndThird(Vec<T> a) {
+    if constexpr (sizeof(T) == 1) {
+        // words swapped in each dword give c2 c3 c0 c1: keep its even bytes
+        const __m128i t = _mm_shufflehi_epi16(_mm_shufflelo_epi16(a.v, 0xB1), 0xB1);
+        const __m128i even = _mm_set1_epi16(0x00FF);
+        return {_mm_or_si128(_mm_and_si128(even, t), _mm_andnot_si128(even, a.v))};
+    } else if constexpr (sizeof(T) == 2) {
+        return fromBits<T>(_mm_shufflehi_epi16(_mm_shufflelo_epi16(bits(a), 0xC6), 0xC6));
+    } else {
+        static_assert(sizeof(T) == 4, "8-, 16- or 32-bit lanes");
+        return fromBits<T>(_mm_shuffle_epi32(bits(a), 0xC6));
+    }
 }
 
 }  // namespace isa
