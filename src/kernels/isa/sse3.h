@@ -358,6 +358,21 @@ inline unsigned getControl() {
 inline void setControl(unsigned csr) { __asm__ volatile("ldmxcsr %0" : : "m"(csr) : "memory"); }
 inline unsigned withRounding(unsigned csr, unsigned mode) { return (csr & ~0x6000u) | mode; }
 
+// ---- scale-factor arithmetic ----------------------------------------------------------
+// Both halves of four 32-bit integers as doubles, and back (rounding by the
+// current rounding control).
+inline Vec<double> toDoubleLo(Vec<std::int32_t> a) { return {_mm_cvtepi32_pd(a.v)}; }
+inline Vec<double> toDoubleHi(Vec<std::int32_t> a) { return {_mm_cvtepi32_pd(_mm_unpackhi_epi64(a.v, a.v))}; }
+inline Vec<std::int32_t> toInt(Vec<double> lo, Vec<double> hi) {
+    return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(lo.v), _mm_cvtpd_epi32(hi.v))};
+}
+// One value rounded by the current rounding control (in range by the caller).
+inline std::int32_t toIntScalar(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+inline std::int32_t toIntScalar(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
+// Lanes of a all ones.
+template <class T>
+inline Vec<T> allOnes() { return fromBits<T>(_mm_set1_epi32(-1)); }
+
 }  // namespace isa
 QVN_TARGET_END
 
