@@ -399,6 +399,232 @@ QVN_API QvnStatus qvniMulC_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, cons
 QVN_API QvnStatus qvniMulC_32f_AC4IR(const Qvn32f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniMulC_32f_AC4IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
 
+/* Division: Div gives src2 / src1 (source 1 is the divisor), rounded to
+ * nearest with ties to even after the scale factor. A zero divisor gives 0
+ * for a zero dividend, else the maximum of the type (16s: the minimum for a
+ * negative dividend), and qvnWarnDivByZero; 32f gives +-infinity or NaN. */
+QVN_API QvnStatus qvniDiv_8u_C1RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C1RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C1IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C1IRSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C3RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C3RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C3IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C3IRSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C4RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C4RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C4IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_C4IRSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_AC4RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_AC4RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_AC4IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_8u_AC4IRSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C1RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C1RSfs_L(const Qvn16u* pSrc1, QvnSizeL src1Step, const Qvn16u* pSrc2, QvnSizeL src2Step, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C1IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C1IRSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C3RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C3RSfs_L(const Qvn16u* pSrc1, QvnSizeL src1Step, const Qvn16u* pSrc2, QvnSizeL src2Step, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C3IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C3IRSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C4RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C4RSfs_L(const Qvn16u* pSrc1, QvnSizeL src1Step, const Qvn16u* pSrc2, QvnSizeL src2Step, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C4IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_C4IRSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_AC4RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_AC4RSfs_L(const Qvn16u* pSrc1, QvnSizeL src1Step, const Qvn16u* pSrc2, QvnSizeL src2Step, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_AC4IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16u_AC4IRSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C1RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C1RSfs_L(const Qvn16s* pSrc1, QvnSizeL src1Step, const Qvn16s* pSrc2, QvnSizeL src2Step, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C1IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C1IRSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C3RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C3RSfs_L(const Qvn16s* pSrc1, QvnSizeL src1Step, const Qvn16s* pSrc2, QvnSizeL src2Step, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C3IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C3IRSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C4RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C4RSfs_L(const Qvn16s* pSrc1, QvnSizeL src1Step, const Qvn16s* pSrc2, QvnSizeL src2Step, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C4IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_C4IRSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_AC4RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_AC4RSfs_L(const Qvn16s* pSrc1, QvnSizeL src1Step, const Qvn16s* pSrc2, QvnSizeL src2Step, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_AC4IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_16s_AC4IRSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDiv_32f_C1R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C1R_L(const Qvn32f* pSrc1, QvnSizeL src1Step, const Qvn32f* pSrc2, QvnSizeL src2Step, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_C1IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C1IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_C3R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C3R_L(const Qvn32f* pSrc1, QvnSizeL src1Step, const Qvn32f* pSrc2, QvnSizeL src2Step, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_C3IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C3IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_C4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C4R_L(const Qvn32f* pSrc1, QvnSizeL src1Step, const Qvn32f* pSrc2, QvnSizeL src2Step, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_C4IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_C4IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_AC4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_AC4R_L(const Qvn32f* pSrc1, QvnSizeL src1Step, const Qvn32f* pSrc2, QvnSizeL src2Step, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDiv_32f_AC4IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDiv_32f_AC4IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+
+/* Image by constant: src / value; a zero constant (of the channels the layout
+ * uses) is refused with qvnErrDivByZero. */
+QVN_API QvnStatus qvniDivC_8u_C1RSfs(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C1RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u value, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C1IRSfs(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C1IRSfs_L(Qvn8u value, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C1RSfs(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C1RSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, Qvn16u value, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C1IRSfs(Qvn16u value, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C1IRSfs_L(Qvn16u value, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C1RSfs(const Qvn16s* pSrc, int srcStep, Qvn16s value, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C1RSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, Qvn16s value, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C1IRSfs(Qvn16s value, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C1IRSfs_L(Qvn16s value, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C3RSfs(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C3RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, const Qvn8u* pValue, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C3IRSfs(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C3IRSfs_L(const Qvn8u* pValue, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C4RSfs(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C4RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, const Qvn8u* pValue, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C4IRSfs(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_C4IRSfs_L(const Qvn8u* pValue, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_AC4RSfs(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_AC4RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, const Qvn8u* pValue, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_AC4IRSfs(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_8u_AC4IRSfs_L(const Qvn8u* pValue, Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C3RSfs(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C3RSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, const Qvn16u* pValue, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C3IRSfs(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C3IRSfs_L(const Qvn16u* pValue, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C4RSfs(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C4RSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, const Qvn16u* pValue, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C4IRSfs(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_C4IRSfs_L(const Qvn16u* pValue, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_AC4RSfs(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_AC4RSfs_L(const Qvn16u* pSrc, QvnSizeL srcStep, const Qvn16u* pValue, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_AC4IRSfs(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16u_AC4IRSfs_L(const Qvn16u* pValue, Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C3RSfs(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C3RSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, const Qvn16s* pValue, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C3IRSfs(const Qvn16s* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C3IRSfs_L(const Qvn16s* pValue, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C4RSfs(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C4RSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, const Qvn16s* pValue, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C4IRSfs(const Qvn16s* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_C4IRSfs_L(const Qvn16s* pValue, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_AC4RSfs(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_AC4RSfs_L(const Qvn16s* pSrc, QvnSizeL srcStep, const Qvn16s* pValue, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_AC4IRSfs(const Qvn16s* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_16s_AC4IRSfs_L(const Qvn16s* pValue, Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize, int scaleFactor);
+QVN_API QvnStatus qvniDivC_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f value, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C1R_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f value, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_C1IR(Qvn32f value, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C1IR_L(Qvn32f value, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_C3R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C3R_L(const Qvn32f* pSrc, QvnSizeL srcStep, const Qvn32f* pValue, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_C3IR(const Qvn32f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C3IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_C4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, const Qvn32f* pValue, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_C4IR(const Qvn32f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_C4IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_AC4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, const Qvn32f* pValue, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
+QVN_API QvnStatus qvniDivC_32f_AC4IR(const Qvn32f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniDivC_32f_AC4IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
+
+/* src2 / (src1 * 2^scaleFactor) in single precision, rounded by rndMode
+ * (qvnRndZero, qvnRndNear, qvnRndFinancial). The rounding control of the
+ * calling thread is set for the call and restored. */
+QVN_API QvnStatus qvniDiv_Round_8u_C1RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_C1IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_C3RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_C3IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_C4RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_C4IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_AC4RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_8u_AC4IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C1RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C1IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C3RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C3IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C4RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_C4IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_AC4RSfs(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16u_AC4IRSfs(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C1RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C1IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C3RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C3IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C4RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_C4IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_AC4RSfs(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+QVN_API QvnStatus qvniDiv_Round_16s_AC4IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
+
+/* Normalised products: floor(src1 * src2 / max) and floor(src * value / max),
+ * max being 255 or 65535. Steps are tested before the sizes. */
+QVN_API QvnStatus qvniMulScale_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_C1IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_C3IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_C4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_C4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_AC4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_8u_AC4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C1R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C1IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C3R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C3IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_C4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_AC4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulScale_16u_AC4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C1IR(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C1IR(Qvn16u value, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C3IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_C4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_8u_AC4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C3IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_C4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniMulCScale_16u_AC4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
+/* src * value[channel] in double precision; integer results are limited to
+ * the type and rounded by rndMode. The hint is accepted and not used. */
+QVN_API QvnStatus qvniMulC64f_8u_C1R(const Qvn8u* pSrc, int srcStep, const Qvn64f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_8u_C1IR(const Qvn64f* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn64f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_8u_C3IR(const Qvn64f* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn64f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_8u_C4IR(const Qvn64f* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C1R(const Qvn16u* pSrc, int srcStep, const Qvn64f* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C1IR(const Qvn64f* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn64f* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C3IR(const Qvn64f* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn64f* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16u_C4IR(const Qvn64f* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C1R(const Qvn16s* pSrc, int srcStep, const Qvn64f* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C1IR(const Qvn64f* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C3R(const Qvn16s* pSrc, int srcStep, const Qvn64f* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C3IR(const Qvn64f* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C4R(const Qvn16s* pSrc, int srcStep, const Qvn64f* pValue, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_16s_C4IR(const Qvn64f* pValue, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C1R(const Qvn32f* pSrc, int srcStep, const Qvn64f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C1IR(const Qvn64f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C3R(const Qvn32f* pSrc, int srcStep, const Qvn64f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C3IR(const Qvn64f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C4R(const Qvn32f* pSrc, int srcStep, const Qvn64f* pValue, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+QVN_API QvnStatus qvniMulC64f_32f_C4IR(const Qvn64f* pValue, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
+
 QVN_END_DECLS
 
 #endif /* QVNIP_ARITH_H */

@@ -18,15 +18,14 @@ using kernels::arith::AddOp;
 using kernels::arith::MulOp;
 using kernels::arith::SubOp;
 
-// Runs kernel-maker mk over the rows. Two-source C1, C3 and C4 rows are one
+// Runs kernel kern (x op y) over the rows. Two-source C1, C3 and C4 rows are one
 // run of width x channels elements; AC4 keeps every fourth element. A constant
 // operand repeats K values along the row.
-template <class T, class L, bool Const, class MakeKernel>
+template <class T, class L, bool Const, class Kern>
 inline QvnStatus runRows(const T* x, std::int64_t xStep, const T* y, std::int64_t yStep, T* d,
-                         std::int64_t dStep, RoiL roi, MakeKernel&& mk) {
+                         std::int64_t dStep, RoiL roi, Kern&& kern) {
     namespace ka = kernels::arith;
     constexpr int E = L::kElems;
-    const auto kern = mk();
     if constexpr (Const) {
         constexpr int K = L::kAlpha ? 4 : E;
         const ka::ConstOperand<T, K> c(y);
@@ -50,23 +49,20 @@ inline QvnStatus scaled(const T* x, std::int64_t xStep, const T* y, std::int64_t
                         RoiL roi, int sf) {
     namespace ka = kernels::arith;
     if constexpr (std::is_same_v<T, Qvn32f>) {
-        return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi, [] { return ka::FloatKernel<Op>{}; });
+        return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi, ka::FloatKernel<Op>{});
     } else {
         using W = typename Op::template Wide<T>;
         if (sf == 0)
-            return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi,
-                                        [] { return ka::SfsKernel<Op, T, ka::PathPlain>{}; });
+            return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi, ka::SfsKernel<Op, T, ka::PathPlain>{});
         if (sf >= ka::zeroFrom<Op, T>()) {
             const T zero[4] = {};
             return move::fill<T, L>(zero, d, dStep, roi);
         }
         if (sf > 0)
-            return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi, [sf] {
-                return ka::SfsKernel<Op, T, ka::PathRight<W>>{ka::PathRight<W>(sf)};
-            });
-        return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi, [sf] {
-            return ka::SfsKernel<Op, T, ka::PathLeft<W>>{ka::PathLeft<W>::template make<T>(sf)};
-        });
+            return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi,
+                                        ka::SfsKernel<Op, T, ka::PathRight<W>>{{}, ka::PathRight<W>(sf)});
+        return runRows<T, L, Const>(x, xStep, y, yStep, d, dStep, roi,
+                                    ka::SfsKernel<Op, T, ka::PathLeft<W>>{{}, ka::PathLeft<W>::template make<T>(sf)});
     }
 }
 

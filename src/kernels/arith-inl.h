@@ -220,8 +220,15 @@ struct PathLeft {
 };
 
 // ---- kernels: scalar and vector form of one operation on one path ---------------------
+// Kernels that watch their inputs (zero divisors) are told which vector lanes
+// hold alpha elements that AC4 neither reads nor writes.
+struct Unwatched {
+    template <class M>
+    void skipLanes(M) {}
+};
+
 template <class Op, class T, class Path>
-struct SfsKernel {
+struct SfsKernel : Unwatched {
     static constexpr bool kVector = std::is_same_v<Path, PathPlain> || kVectorShift<Op, T>;
     Path path;
     T scalar(T x, T y) const { return path.template scalar<T>(Op::wide(x, y)); }
@@ -241,7 +248,7 @@ struct SfsKernel {
 };
 
 template <class Op>
-struct FloatKernel {
+struct FloatKernel : Unwatched {
     static constexpr bool kVector = true;
     float scalar(float x, float y) const { return Op::f(x, y); }
     V<float> vector(V<float> x, V<float> y) const { return Op::fv(x, y); }
@@ -302,7 +309,7 @@ inline V<T> alphaLanes(int64_t i0) {
 // d is 16-byte aligned, vector body, scalar tail. With Keep every fourth element
 // (alpha) is left as it is.
 template <bool Keep, class T, class Kern, class Y>
-inline void row(const T* x, Y y, T* d, int64_t n, const Kern& kern) {
+inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
     int64_t head = headToAlign16(d, n);
     if (head < 0 || !Kern::kVector) head = n;
@@ -313,6 +320,7 @@ inline void row(const T* x, Y y, T* d, int64_t n, const Kern& kern) {
         y.start(i);
         if constexpr (Keep) {
             const V<T> alpha = alphaLanes<T>(i);
+            kern.skipLanes(alpha);
             for (; i + kLanes <= n; i += kLanes, y.next())
                 isa::storeA(d + i, isa::select(alpha, isa::loadA(d + i), kern.vector(isa::loadU(x + i), y.vec(i))));
         } else {

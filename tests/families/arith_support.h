@@ -94,7 +94,10 @@ void sweep(const SweepCase& sc, int sf, Call call, Model model, QvnStatus wantSt
             fillMixed(s1, seed + 3);
             fillMixed(s2, seed + 4);
             T cst[4];
-            for (int c = 0; c < 4; ++c) cst[c] = s1.at(c % s1.rowElems(), 0);
+            for (int c = 0; c < 4; ++c) {  // constant forms: no zero divisor (DivC refuses it)
+                cst[c] = s1.at(c % s1.rowElems(), 0);
+                if (cst[c] == T(0)) cst[c] = T(3);
+            }
             if (sc.form == Form::InPlace)
                 for (std::int64_t y = 0; y < h; ++y)
                     for (std::int64_t e = 0; e < d.rowElems(); ++e)
