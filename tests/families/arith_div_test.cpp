@@ -51,7 +51,7 @@ TEST(ArithDiv, IntegerDivisionFollowsTheScaleRule) {
 TEST(ArithDiv, ConstantFormsNeverMeetZero) {
     // the sweep's constants come from image data and may be zero; use fixed ones
     const Qvn16s c[4] = {3, -7, 2, 0};
-    std::vector<Qvn16s> img(4 * 5, 100), out(4 * 5, 1);
+    std::vector<Qvn16s> img(4 * 5 * 4, 100), out(4 * 5 * 4, 1);  // 5 x 4 pixels of 4 elements
     EXPECT_EQ(qvniDivC_16s_AC4RSfs(img.data(), 40, c, out.data(), 40, {5, 4}, 0), qvnOk);  // alpha constant unused
     EXPECT_EQ(out[0], 33);
     EXPECT_EQ(out[1], -14);
