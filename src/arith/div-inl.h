@@ -38,9 +38,12 @@ inline QvnStatus divide(const T* src1, std::int64_t src1Step, const T* src2, std
         return zero ? qvnWarnDivByZero : qvnOk;
     } else {
         const RoundingScope nearest(qvnRndNear);
-        ka::DivKernel<T> kern(scaleFactor);
-        runRows<T, L, false>(src2, src2Step, src1, src1Step, dst, dstStep, roi, kern);
-        return kern.status();
+        const auto run = [&](auto kern) {
+            runRows<T, L, false>(src2, src2Step, src1, src1Step, dst, dstStep, roi, kern);
+            return kern.status();
+        };
+        if (ka::divNeedsDouble<T>(scaleFactor)) return run(ka::DivKernel<T, double>(scaleFactor));
+        return run(ka::DivKernel<T, float>(scaleFactor));
     }
 }
 
@@ -66,7 +69,9 @@ inline QvnStatus divideConst(const T* src, std::int64_t srcStep, const T* value,
         return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, ka::FloatKernel<DivOp>{});
     } else {
         const RoundingScope nearest(qvnRndNear);
-        return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, ka::DivKernel<T>(scaleFactor));
+        if (ka::divNeedsDouble<T>(scaleFactor))
+            return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, ka::DivKernel<T, double>(scaleFactor));
+        return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, ka::DivKernel<T, float>(scaleFactor));
     }
 }
 

@@ -4,8 +4,10 @@
 #define QVN_ARITH_MULSCALE_INL_H
 
 #include <cstdint>
+#include <type_traits>
 
 #include "arith/binary-inl.h"
+#include "core/fpround-inl.h"
 #include "kernels/arith-scale-inl.h"
 
 QVN_TARGET_BEGIN
@@ -35,8 +37,9 @@ inline QvnStatus mulConstScale(const T* src, std::int64_t srcStep, const T* valu
     return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, kernels::arith::MulScaleKernel<T>{});
 }
 
-// src * value[channel] in double precision. Pointers, ROI, then the rounding
-// mode; the accuracy hint selects nothing in this implementation.
+// src * value[channel] in double precision; integer forms set the rounding
+// control for the call from the mode and restore it after. Pointers, ROI, then the
+// rounding mode; the accuracy hint selects nothing in this implementation.
 template <class T, class L>
 inline QvnStatus mulConst64f(const T* src, std::int64_t srcStep, const Qvn64f* value, T* dst, std::int64_t dstStep,
                              RoiL roi, int /*hint*/, int rndMode) {
@@ -46,9 +49,15 @@ inline QvnStatus mulConst64f(const T* src, std::int64_t srcStep, const Qvn64f* v
     constexpr int E = L::kElems;
     double c[E];
     for (int k = 0; k < E; ++k) c[k] = value[k];
-    return forEachRow(
-        roi, [&](const T* x, T* d, std::int64_t n) { kernels::arith::mulC64fRow<T, E>(x, c, d, n, rndMode); },
-        rows(src, srcStep, E), rows(dst, dstStep, E));
+    const kernels::arith::MulC64fKernel<T> kern(rndMode);
+    const auto run = [&] {
+        return forEachRow(
+            roi, [&](const T* x, T* d, std::int64_t n) { kernels::arith::mulC64fRow<T, E>(x, c, d, n * E, kern); },
+            rows(src, srcStep, E), rows(dst, dstStep, E));
+    };
+    if constexpr (std::is_same_v<T, Qvn32f>) return run();  // no integer rounding: the caller's mode stays
+    const RoundingScope scope(rndMode);
+    return run();
 }
 
 }  // namespace arith

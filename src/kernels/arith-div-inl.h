@@ -48,35 +48,38 @@ struct ZeroWatch {
 };
 
 // Integer x / y scaled by 2^-sf, rounded to nearest with ties to even: the
-// quotient (x * 2^max(-sf, 0)) / (y * 2^max(sf, 0)) is formed in double, where
-// both products are exact and the one division cannot move a quotient of
-// 16-bit operands across a half-integer; it is then clamped to T and rounded
-// by the rounding control, which the caller sets to nearest. Factors beyond
+// quotient (x * 2^max(-sf, 0)) / (y * 2^max(sf, 0)) is formed in F, where both
+// products are exact and the one rounded division cannot move the quotient
+// across a half-integer that decides the result; it is then clamped to T and
+// rounded by the rounding control, which the caller sets to nearest. Single
+// precision suffices for 8u and for factors >= 0 (the quotient's error stays
+// below 2^-8 / (y * 2^sf), under the 1 / (2 y 2^sf) between a quotient and a
+// half); 16-bit division by a negative factor needs double. Factors beyond
 // +-40 give the results of +-40 (all 0, or all saturated).
-template <class T>
+template <class T, class F>
 struct DivKernel : ZeroWatch<T> {
     static constexpr bool kVector = true;
-    double mx, my;
-    V<double> vmx, vmy, lo, hi;
+    F mx, my;
+    V<F> vmx, vmy, lo, hi;
     explicit DivKernel(int sf) {
         const int s = sf < -40 ? -40 : sf > 40 ? 40 : sf;
-        mx = std::ldexp(1.0, s < 0 ? -s : 0);
-        my = std::ldexp(1.0, s > 0 ? s : 0);
+        mx = std::ldexp(F(1), s < 0 ? -s : 0);
+        my = std::ldexp(F(1), s > 0 ? s : 0);
         vmx = isa::set1(mx);
         vmy = isa::set1(my);
-        lo = isa::set1(double(kMin<T>));
-        hi = isa::set1(double(kMax<T>));
+        lo = isa::set1(F(kMin<T>));
+        hi = isa::set1(F(kMax<T>));
     }
     T scalar(T x, T y) {
         if (y == 0) {
             this->seenScalar = true;
             return zeroDivisorResult(x);
         }
-        double q = (double(x) * mx) / (double(y) * my);
-        q = q < double(kMin<T>) ? double(kMin<T>) : q > double(kMax<T>) ? double(kMax<T>) : q;
+        F q = (F(x) * mx) / (F(y) * my);
+        q = q < F(kMin<T>) ? F(kMin<T>) : q > F(kMax<T>) ? F(kMax<T>) : q;
         return static_cast<T>(isa::toIntScalar(q));
     }
-    V<double> quotient(V<double> x, V<double> y) const {
+    V<F> quotient(V<F> x, V<F> y) const {
         return isa::min(isa::max(isa::div(isa::mul(x, vmx), isa::mul(y, vmy)), lo), hi);
     }
     V<T> vector(V<T> x, V<T> y) {
@@ -84,12 +87,20 @@ struct DivKernel : ZeroWatch<T> {
         V<int32_t> a[kParts<int32_t, T>], b[kParts<int32_t, T>];
         widen(x, a);
         widen(y, b);
-        for (int j = 0; j < kParts<int32_t, T>; ++j)
-            a[j] = isa::toInt(quotient(isa::toDoubleLo(a[j]), isa::toDoubleLo(b[j])),
-                              quotient(isa::toDoubleHi(a[j]), isa::toDoubleHi(b[j])));
+        for (int j = 0; j < kParts<int32_t, T>; ++j) {
+            if constexpr (std::is_same_v<F, float>)
+                a[j] = isa::toInt(quotient(isa::toFloat(a[j]), isa::toFloat(b[j])));
+            else
+                a[j] = isa::toInt(quotient(isa::toDoubleLo(a[j]), isa::toDoubleLo(b[j])),
+                                  quotient(isa::toDoubleHi(a[j]), isa::toDoubleHi(b[j])));
+        }
         return isa::select(zero, zeroDivisorResult(x), narrow<T>(a));
     }
 };
+
+// Whether division of T by scale factor sf needs the double kernel.
+template <class T>
+inline bool divNeedsDouble(int sf) { return sizeof(T) > 1 && sf < 0; }
 
 // Division with a rounding mode: q = x / (y * 2^sf) in single precision,
 // limited to the range of T, then rounded by the rounding control (toward zero

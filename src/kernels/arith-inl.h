@@ -58,13 +58,28 @@ inline void widen(V<T> a, V<W>* out) {
     }
 }
 
-// Saturating narrowing of kParts<W, T> wide vectors into one vector of T.
+// Saturating narrowing of kParts<W, T> wide vectors into one vector of T
+// (unsigned wide lanes hold values below their sign bit).
 template <class T, class W>
 inline V<T> narrow(const V<W>* in) {
+    using S = std::make_signed_t<W>;
     if constexpr (sizeof(W) == 2 * sizeof(T)) {
-        return isa::packSat<T>(in[0], in[1]);
+        return isa::packSat<T>(isa::cast<S>(in[0]), isa::cast<S>(in[1]));
     } else {
         return isa::packSat<T>(isa::packSat<int16_t>(in[0], in[1]), isa::packSat<int16_t>(in[2], in[3]));
+    }
+}
+
+// Unsigned minimum of 16- and 32-bit lanes.
+template <class W>
+inline V<W> minUnsigned(V<W> a, V<W> b) {
+    if constexpr (sizeof(W) == 2) {
+        return isa::min(a, b);
+    } else {  // compare with the sign bits flipped
+        using S = std::make_signed_t<W>;
+        const V<S> bias = isa::set1<S>(std::numeric_limits<S>::min());
+        const V<S> gt = isa::cmpGt(isa::bitXor(isa::cast<S>(a), bias), isa::bitXor(isa::cast<S>(b), bias));
+        return isa::select(isa::cast<W>(gt), b, a);
     }
 }
 
@@ -109,26 +124,24 @@ struct SubOp {
     static V<float> fv(V<float> x, V<float> y) { return isa::sub(x, y); }
 };
 
+// Products are formed in unsigned 16-bit lanes for 8u, unsigned 32-bit lanes
+// for 16u and signed 32-bit lanes for 16s: each the exact product.
 struct MulOp {
     template <class T>
-    using Wide = int32_t;
+    using Wide = std::conditional_t<sizeof(T) == 1, uint16_t,
+                                    std::conditional_t<std::is_same_v<T, uint16_t>, std::uint32_t, int32_t>>;
     static constexpr int64_t maxAbs(int64_t lo, int64_t hi) { return lo * lo > hi * hi ? lo * lo : hi * hi; }
     template <class T>
     static int64_t wide(T x, T y) { return int64_t(x) * y; }
     template <class T, class W>
     static void vwide(V<T> x, V<T> y, V<W>* w) {
-        if constexpr (sizeof(T) == 1) {  // 16-bit products of 8-bit values, zero-extended
-            const V<uint16_t> lo = isa::mulLo(isa::widenLo<uint16_t>(x), isa::widenLo<uint16_t>(y));
-            const V<uint16_t> hi = isa::mulLo(isa::widenHi<uint16_t>(x), isa::widenHi<uint16_t>(y));
-            w[0] = isa::widenLo<int32_t>(lo);
-            w[1] = isa::widenHi<int32_t>(lo);
-            w[2] = isa::widenLo<int32_t>(hi);
-            w[3] = isa::widenHi<int32_t>(hi);
-        } else {  // 16s: both halves of the 32-bit products, interleaved
-            static_assert(std::is_same_v<T, int16_t>, "16u products do not fit signed 32-bit lanes");
-            const V<int16_t> lo = isa::mulLo(x, y), hi = isa::mulHi(x, y);
-            w[0] = isa::cast<int32_t>(isa::zipLo(lo, hi));
-            w[1] = isa::cast<int32_t>(isa::zipHi(lo, hi));
+        if constexpr (sizeof(T) == 1) {
+            w[0] = isa::mulLo(isa::widenLo<uint16_t>(x), isa::widenLo<uint16_t>(y));
+            w[1] = isa::mulLo(isa::widenHi<uint16_t>(x), isa::widenHi<uint16_t>(y));
+        } else {  // both halves of the 32-bit products, interleaved
+            const V<T> lo = isa::mulLo(x, y), hi = isa::mulHi(x, y);
+            w[0] = isa::cast<W>(isa::zipLo(lo, hi));
+            w[1] = isa::cast<W>(isa::zipHi(lo, hi));
         }
     }
     template <class T>
@@ -153,11 +166,6 @@ struct MulOp {
     static V<float> fv(V<float> x, V<float> y) { return isa::mul(x, y); }
 };
 
-// Whether the shift paths of Op on T run on vectors: the 16u product needs 33
-// signed bits, so its scaled forms stay scalar.
-template <class Op, class T>
-inline constexpr bool kVectorShift = !(std::is_same_v<Op, MulOp> && std::is_same_v<T, uint16_t>);
-
 // The smallest positive scale factor from which every result of Op on T is 0:
 // |v| <= 2^(sf-1) rounds to 0 (a tie goes to the even 0).
 template <class Op, class T>
@@ -178,22 +186,32 @@ struct PathPlain {
     T scalar(int64_t v) const { return saturate<T>(v); }
 };
 
-// sf in 1 .. zeroFrom - 1: divide with ties to even.
+// sf in 1 .. zeroFrom - 1: divide with ties to even. Unsigned lanes may use
+// their top bit, so there the value is halved first, v = 2h + l, and the same
+// rounding is (h + ((l + 2^(sf-1) - 1 + (q & 1)) >> 1)) >> (sf - 1) with
+// q = h >> (sf - 1), which cannot overflow.
 template <class W>
 struct PathRight {
     int n;
-    isa::ShiftCount count;
+    isa::ShiftCount count, countLess1;
     V<W> halfMinus1, one;
     explicit PathRight(int sf)
-        : n(sf), count(isa::shiftCount(sf)), halfMinus1(isa::set1<W>(W((int64_t(1) << (sf - 1)) - 1))),
-          one(isa::set1<W>(W(1))) {}
+        : n(sf), count(isa::shiftCount(sf)), countLess1(isa::shiftCount(sf - 1)),
+          halfMinus1(isa::set1<W>(W((int64_t(1) << (sf - 1)) - 1))), one(isa::set1<W>(W(1))) {}
     template <class T>
     T scalar(int64_t v) const {
         return saturate<T>((v + (int64_t(1) << (n - 1)) - 1 + ((v >> n) & 1)) >> n);
     }
     V<W> vector(V<W> v) const {
-        const V<W> odd = isa::bitAnd(isa::shiftRight(v, count), one);
-        return isa::shiftRight(isa::add(isa::add(v, halfMinus1), odd), count);
+        if constexpr (std::is_unsigned_v<W>) {
+            const V<W> h = isa::shiftRight<1>(v);
+            const V<W> odd = isa::bitAnd(isa::shiftRight(h, countLess1), one);
+            const V<W> carry = isa::shiftRight<1>(isa::add(isa::add(isa::bitAnd(v, one), halfMinus1), odd));
+            return isa::shiftRight(isa::add(h, carry), countLess1);
+        } else {
+            const V<W> odd = isa::bitAnd(isa::shiftRight(v, count), one);
+            return isa::shiftRight(isa::add(isa::add(v, halfMinus1), odd), count);
+        }
     }
 };
 
@@ -216,7 +234,10 @@ struct PathLeft {
     T scalar(int64_t v) const {
         return saturate<T>((v < lo ? lo : v > hi ? hi : v) * (int64_t(1) << n));
     }
-    V<W> vector(V<W> v) const { return isa::shiftLeft(isa::min(isa::max(v, vlo), vhi), count); }
+    V<W> vector(V<W> v) const {
+        if constexpr (std::is_unsigned_v<W>) return isa::shiftLeft(minUnsigned(v, vhi), count);
+        else return isa::shiftLeft(isa::min(isa::max(v, vlo), vhi), count);
+    }
 };
 
 // ---- kernels: scalar and vector form of one operation on one path ---------------------
@@ -229,27 +250,23 @@ struct Unwatched {
 
 template <class Op, class T, class Path>
 struct SfsKernel : Unwatched {
-    static constexpr bool kVector = std::is_same_v<Path, PathPlain> || kVectorShift<Op, T>;
     Path path;
     T scalar(T x, T y) const { return path.template scalar<T>(Op::wide(x, y)); }
     V<T> vector(V<T> x, V<T> y) const {
         if constexpr (std::is_same_v<Path, PathPlain>) {
             return Op::plain(x, y);
-        } else if constexpr (kVectorShift<Op, T>) {
+        } else {
             using W = typename Op::template Wide<T>;
             V<W> w[kParts<W, T>];
             Op::vwide(x, y, w);
             for (auto& v : w) v = path.vector(v);
             return narrow<T>(w);
-        } else {
-            return x;  // never called: kVector is false
         }
     }
 };
 
 template <class Op>
 struct FloatKernel : Unwatched {
-    static constexpr bool kVector = true;
     float scalar(float x, float y) const { return Op::f(x, y); }
     V<float> vector(V<float> x, V<float> y) const { return Op::fv(x, y); }
 };
@@ -257,11 +274,11 @@ struct FloatKernel : Unwatched {
 // ---- second operands: an image row or a repeating per-channel constant -----------------
 template <class T>
 struct RowOperand {
+    static constexpr int kPeriod = 1;
     const T* p;
     T at(int64_t i) const { return p[i]; }
     void start(int64_t) {}
     V<T> vec(int64_t i) const { return isa::loadU(p + i); }
-    void next() {}
 };
 
 // K constants repeating along the row (K = 4 for AC4, whose fourth is unused).
@@ -271,7 +288,6 @@ struct ConstOperand {
     static constexpr int kPeriod = K == 3 ? 3 : 1;
     T c[K];
     V<T> v[kPeriod];
-    int phase = 0;
     explicit ConstOperand(const T* value) {
         for (int k = 0; k < K; ++k) c[k] = value[k];
     }
@@ -282,12 +298,8 @@ struct ConstOperand {
             for (std::size_t e = 0; e < isa::kLanes<T>; ++e) lane[e] = c[(i0 + k * int64_t(isa::kLanes<T>) + int64_t(e)) % K];
             v[k] = isa::loadA(lane);
         }
-        phase = 0;
     }
-    V<T> vec(int64_t) const { return v[phase]; }
-    void next() {
-        if constexpr (kPeriod > 1) phase = phase + 1 == kPeriod ? 0 : phase + 1;
-    }
+    V<T> vec(int64_t) const { return v[0]; }  // period 1
 };
 
 // All-ones lanes on the elements at positions i0 + e with (i0 + e) % 4 == 3:
@@ -312,20 +324,28 @@ template <bool Keep, class T, class Kern, class Y>
 inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
     int64_t head = headToAlign16(d, n);
-    if (head < 0 || !Kern::kVector) head = n;
+    if (head < 0) head = n;
     int64_t i = 0;
     for (; i < head; ++i)
         if (!Keep || i % 4 != 3) d[i] = kern.scalar(x[i], y.at(i));
     if (i + kLanes <= n) {
         y.start(i);
-        if constexpr (Keep) {
-            const V<T> alpha = alphaLanes<T>(i);
-            kern.skipLanes(alpha);
-            for (; i + kLanes <= n; i += kLanes, y.next())
-                isa::storeA(d + i, isa::select(alpha, isa::loadA(d + i), kern.vector(isa::loadU(x + i), y.vec(i))));
+        const V<T> alpha = Keep ? alphaLanes<T>(i) : isa::zero<T>();
+        if constexpr (Keep) kern.skipLanes(alpha);
+        const auto one = [&](int64_t k, V<T> yv) {
+            const V<T> r = kern.vector(isa::loadU(x + k), yv);
+            if constexpr (Keep) isa::storeA(d + k, isa::select(alpha, isa::loadA(d + k), r));
+            else isa::storeA(d + k, r);
+        };
+        if constexpr (Y::kPeriod == 3) {  // a 3-constant pattern: three vectors a round
+            for (; i + 3 * kLanes <= n; i += 3 * kLanes) {
+                one(i, y.v[0]);
+                one(i + kLanes, y.v[1]);
+                one(i + 2 * kLanes, y.v[2]);
+            }
+            for (int k = 0; i + kLanes <= n; i += kLanes, ++k) one(i, y.v[k]);
         } else {
-            for (; i + kLanes <= n; i += kLanes, y.next())
-                isa::storeA(d + i, kern.vector(isa::loadU(x + i), y.vec(i)));
+            for (; i + kLanes <= n; i += kLanes) one(i, y.vec(i));
         }
     }
     for (; i < n; ++i)

@@ -3,6 +3,7 @@
 #ifndef QVN_KERNELS_ARITH_SCALE_INL_H
 #define QVN_KERNELS_ARITH_SCALE_INL_H
 
+#include <cmath>
 #include <cstdint>
 #include <limits>
 #include <type_traits>
@@ -42,33 +43,68 @@ struct MulScaleKernel : Unwatched {
     }
 };
 
-// x * c in double, narrowed to single precision; integer results are limited
-// to the range of T and rounded by the mode: 0 toward zero, 1 to nearest with
-// ties to even, 2 to nearest with ties away from zero.
+// x * c in double, narrowed to single precision; integer results are then
+// limited to the range of T, moved by a half away from zero for mode 2, and
+// converted by the rounding control, which the caller sets for the mode
+// (toward zero for 0 and 2, nearest for 1) as the division with a rounding
+// mode does.
 template <class T>
-inline T mulC64fElement(T x, double c, int mode) {
-    const float f = static_cast<float>(double(x) * c);
-    if constexpr (std::is_same_v<T, float>) {
-        (void)mode;
-        return f;
-    } else {
-        constexpr float lo = float(std::numeric_limits<T>::min()), hi = float(std::numeric_limits<T>::max());
-        const float q = f > lo ? (f < hi ? f : hi) : (f < lo ? lo : f);  // NaN gives its own value below
-        if (!(q == q)) return T(0);
-        const int32_t t = static_cast<int32_t>(q);  // toward zero; |q| < 2^16 keeps q - t exact
-        const float r = q - float(t);
-        if (mode == qvnRndZero) return static_cast<T>(t);
-        const float a = r < 0 ? -r : r;
-        const bool up = a > 0.5f || (a == 0.5f && (mode == qvnRndFinancial || (t & 1) != 0));
-        return static_cast<T>(up ? (r < 0 ? t - 1 : t + 1) : t);
+struct MulC64fKernel {
+    float half;
+    V<float> vhalf, lo, hi, sign;
+    explicit MulC64fKernel(int mode)
+        : half(mode == qvnRndFinancial ? 0.5f : 0.0f), vhalf(isa::set1(half)), lo(isa::set1(float(std::numeric_limits<T>::lowest()))),
+          hi(isa::set1(float(std::numeric_limits<T>::max()))), sign(isa::set1(-0.0f)) {}
+    T scalar(T x, double c) const {
+        const float f = static_cast<float>(double(x) * c);
+        if constexpr (std::is_same_v<T, float>) {
+            return f;
+        } else {  // the operand order of the vector max and min: NaN gives the bound
+            float q = f > float(std::numeric_limits<T>::lowest()) ? f : float(std::numeric_limits<T>::lowest());
+            q = q < float(std::numeric_limits<T>::max()) ? q : float(std::numeric_limits<T>::max());
+            return static_cast<T>(isa::toIntScalar(q + std::copysign(half, q)));
+        }
     }
-}
+    V<int32_t> rounded(V<double> a, V<double> b) const {
+        const V<float> q = isa::min(isa::max(isa::toFloat(a, b), lo), hi);
+        return isa::toInt(isa::add(q, isa::bitOr(vhalf, isa::bitAnd(q, sign))));
+    }
+    // c holds the constants of the vector's lanes, two per double vector.
+    V<T> vector(V<T> x, const V<double>* c) const {
+        if constexpr (std::is_same_v<T, float>) {
+            return isa::toFloat(isa::mul(isa::toDoubleLo(x), c[0]), isa::mul(isa::toDoubleHi(x), c[1]));
+        } else {
+            V<int32_t> a[kParts<int32_t, T>];
+            widen(x, a);
+            for (int j = 0; j < kParts<int32_t, T>; ++j)
+                a[j] = rounded(isa::mul(isa::toDoubleLo(a[j]), c[2 * j]), isa::mul(isa::toDoubleHi(a[j]), c[2 * j + 1]));
+            return narrow<T>(a);
+        }
+    }
+};
 
-// d = x * c[channel] over n pixels of E elements.
-template <class T, int E>
-inline void mulC64fRow(const T* x, const double* c, T* d, int64_t n, int mode) {
-    for (int64_t p = 0; p < n; ++p)
-        for (int k = 0; k < E; ++k) d[p * E + k] = mulC64fElement(x[p * E + k], c[k], mode);
+// d = x * c[element % K] over n elements: scalar head until d is aligned,
+// vector body, scalar tail. A 3-constant pattern repeats every three vectors.
+template <class T, int K>
+inline void mulC64fRow(const T* x, const double* c, T* d, int64_t n, const MulC64fKernel<T>& kern) {
+    constexpr int64_t kLanes = isa::kLanes<T>;
+    constexpr int kPeriod = K == 3 ? 3 : 1, kHalves = int(kLanes / 2);
+    int64_t head = headToAlign16(d, n);
+    if (head < 0) head = n;
+    int64_t i = 0;
+    for (; i < head; ++i) d[i] = kern.scalar(x[i], c[i % K]);
+    if (i + kLanes <= n) {
+        V<double> cv[kPeriod][kHalves];
+        for (int p = 0; p < kPeriod; ++p)
+            for (int h = 0; h < kHalves; ++h) {
+                alignas(16) double pair[2];
+                for (int e = 0; e < 2; ++e) pair[e] = c[(i + p * kLanes + 2 * h + e) % K];
+                cv[p][h] = isa::loadA(pair);
+            }
+        for (int p = 0; i + kLanes <= n; i += kLanes, p = p + 1 == kPeriod ? 0 : p + 1)
+            isa::storeA(d + i, kern.vector(isa::loadU(x + i), cv[p]));
+    }
+    for (; i < n; ++i) d[i] = kern.scalar(x[i], c[i % K]);
 }
 
 }  // namespace arith

@@ -1,6 +1,7 @@
 // qvniMulScale, qvniMulCScale and qvniMulC64f against plain models.
 #include <gtest/gtest.h>
 
+#include <cfenv>
 #include <cmath>
 #include <vector>
 
@@ -46,11 +47,16 @@ TEST(ArithMulScale, StepsBeforeSizes) {
     EXPECT_EQ(qvniMulCScale_8u_C1R(v, 1, 3, v, 1, {1, 0}), qvnErrSize);
 }
 
-// The model: the double product narrowed to float, limited, then rounded by
-// the C library in the mode's sense.
+// The model: the double product narrowed to float, both rounded toward zero
+// for integer modes 0 and 2 (whose calls round toward zero throughout), then
+// limited and rounded by the C library in the mode's sense.
 template <class T>
 T mulC64fModel(T x, double c, int mode) {
-    const float f = float(double(x) * c);
+    volatile double vx = double(x), vc = c;  // read after the mode is set
+    if (!std::is_same_v<T, float> && mode != 1) std::fesetround(FE_TOWARDZERO);
+    volatile float vf = float(vx * vc);  // stored before the mode is restored
+    const float f = vf;
+    std::fesetround(FE_TONEAREST);
     if constexpr (std::is_same_v<T, float>) {
         return f;
     } else {
@@ -61,15 +67,17 @@ T mulC64fModel(T x, double c, int mode) {
 
 TEST(ArithMulC64f, EveryTypeAndMode) {
     const double c[4] = {0.5, -1.25, 3.0000001, 257.5};
+    const double edge[4] = {1.0 / 3.0, 2.9999999999, 0.49999999999, 1.5};  // products near integers and halves
+    for (const double* cs : {c, edge})
     for (int mode : {0, 1, 2}) {
         const auto run = [&](auto tag, int elems, auto fn) {
             using T = decltype(tag);
             GuardedImage<T> s({37, 5, elems, -1, true, 7u + unsigned(mode)}), d({37, 5, elems, -1, false, 9});
             fillMixed(s, 11);
-            ASSERT_EQ(fn(s.data(), int(s.step()), c, d.data(), int(d.step()), QvnRoiSize{37, 5}, 0, mode), qvnOk);
+            ASSERT_EQ(fn(s.data(), int(s.step()), cs, d.data(), int(d.step()), QvnRoiSize{37, 5}, 0, mode), qvnOk);
             for (std::int64_t y = 0; y < 5; ++y)
                 for (std::int64_t e = 0; e < s.rowElems(); ++e)
-                    ASSERT_EQ(d.at(e, y), mulC64fModel<T>(s.at(e, y), c[e % elems], mode))
+                    ASSERT_EQ(d.at(e, y), mulC64fModel<T>(s.at(e, y), cs[e % elems], mode))
                         << "mode " << mode << " (" << e / elems << ", " << y << ") of " << +s.at(e, y);
             d.expectUntouchedOutsideRoi();
             s.expectUnchanged();

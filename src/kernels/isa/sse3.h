@@ -366,6 +366,13 @@ inline Vec<double> toDoubleHi(Vec<std::int32_t> a) { return {_mm_cvtepi32_pd(_mm
 inline Vec<std::int32_t> toInt(Vec<double> lo, Vec<double> hi) {
     return {_mm_unpacklo_epi64(_mm_cvtpd_epi32(lo.v), _mm_cvtpd_epi32(hi.v))};
 }
+// Both halves of four floats as doubles, and four doubles narrowed to floats
+// (rounding by the current rounding control).
+inline Vec<double> toDoubleLo(Vec<float> a) { return {_mm_cvtps_pd(a.v)}; }
+inline Vec<double> toDoubleHi(Vec<float> a) { return {_mm_cvtps_pd(_mm_movehl_ps(a.v, a.v))}; }
+inline Vec<float> toFloat(Vec<double> lo, Vec<double> hi) {
+    return {_mm_movelh_ps(_mm_cvtpd_ps(lo.v), _mm_cvtpd_ps(hi.v))};
+}
 // One value rounded by the current rounding control (in range by the caller).
 inline std::int32_t toIntScalar(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
 inline std::int32_t toIntScalar(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
