@@ -28,7 +28,7 @@ inline QvnStatus runRows(const T* x, std::int64_t xStep, const T* y, std::int64_
     constexpr int E = L::kElems;
     if constexpr (Const) {
         constexpr int K = L::kAlpha ? 4 : E;
-        const ka::ConstOperand<T, K> c(y);
+        const ka::ConstOperand<T, K> c(y, L::kChannels);
         return forEachRow(
             roi, [&](const T* xr, T* dr, std::int64_t n) { ka::row<L::kAlpha>(xr, c, dr, n * E, kern); },
             rows(x, xStep, E), rows(d, dStep, E));

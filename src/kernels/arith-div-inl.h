@@ -48,9 +48,9 @@ struct ZeroWatch {
 };
 
 // Integer x / y scaled by 2^-sf, rounded to nearest with ties to even: the
-// quotient (x * 2^max(-sf, 0)) / (y * 2^max(sf, 0)) is formed in F, where both
-// products are exact and the one rounded division cannot move the quotient
-// across a half-integer that decides the result; it is then clamped to T and
+// quotient (x / y) * 2^-sf is formed in F, where the scaling by a power of two
+// is exact and the one rounded division cannot move the quotient across a
+// half-integer that decides the result; it is then clamped to T and
 // rounded by the rounding control, which the caller sets to nearest. Single
 // precision suffices for 8u and for factors >= 0 (the quotient's error stays
 // below 2^-8 / (y * 2^sf), under the 1 / (2 y 2^sf) between a quotient and a
@@ -59,28 +59,22 @@ struct ZeroWatch {
 template <class T, class F>
 struct DivKernel : ZeroWatch<T> {
     static constexpr bool kVector = true;
-    F mx, my;
-    V<F> vmx, vmy, lo, hi;
-    explicit DivKernel(int sf) {
-        const int s = sf < -40 ? -40 : sf > 40 ? 40 : sf;
-        mx = std::ldexp(F(1), s < 0 ? -s : 0);
-        my = std::ldexp(F(1), s > 0 ? s : 0);
-        vmx = isa::set1(mx);
-        vmy = isa::set1(my);
-        lo = isa::set1(F(kMin<T>));
-        hi = isa::set1(F(kMax<T>));
-    }
+    F scale;
+    V<F> vscale, lo, hi;
+    explicit DivKernel(int sf)
+        : scale(std::ldexp(F(1), sf < -40 ? 40 : sf > 40 ? -40 : -sf)), vscale(isa::set1(scale)),
+          lo(isa::set1(F(kMin<T>))), hi(isa::set1(F(kMax<T>))) {}
     T scalar(T x, T y) {
         if (y == 0) {
             this->seenScalar = true;
             return zeroDivisorResult(x);
         }
-        F q = (F(x) * mx) / (F(y) * my);
+        F q = F(x) / F(y) * scale;
         q = q < F(kMin<T>) ? F(kMin<T>) : q > F(kMax<T>) ? F(kMax<T>) : q;
         return static_cast<T>(isa::toIntScalar(q));
     }
     V<F> quotient(V<F> x, V<F> y) const {
-        return isa::min(isa::max(isa::div(isa::mul(x, vmx), isa::mul(y, vmy)), lo), hi);
+        return isa::min(isa::max(isa::mul(isa::div(x, y), vscale), lo), hi);
     }
     V<T> vector(V<T> x, V<T> y) {
         const V<T> zero = this->watch(y);

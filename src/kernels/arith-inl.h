@@ -63,7 +63,13 @@ inline void widen(V<T> a, V<W>* out) {
 template <class T, class W>
 inline V<T> narrow(const V<W>* in) {
     using S = std::make_signed_t<W>;
-    if constexpr (sizeof(W) == 2 * sizeof(T)) {
+    if constexpr (std::is_same_v<W, std::uint32_t> && std::is_same_v<T, uint16_t>) {
+        // non-negative: bias into the signed range, pack with signed saturation, unbias
+        const V<int32_t> bias = isa::set1<int32_t>(32768);
+        const V<int16_t> p = isa::packSat<int16_t>(isa::sub(isa::cast<int32_t>(in[0]), bias),
+                                                   isa::sub(isa::cast<int32_t>(in[1]), bias));
+        return isa::cast<uint16_t>(isa::bitXor(p, isa::set1<int16_t>(-32768)));
+    } else if constexpr (sizeof(W) == 2 * sizeof(T)) {
         return isa::packSat<T>(isa::cast<S>(in[0]), isa::cast<S>(in[1]));
     } else {
         return isa::packSat<T>(isa::packSat<int16_t>(in[0], in[1]), isa::packSat<int16_t>(in[2], in[3]));
@@ -288,8 +294,9 @@ struct ConstOperand {
     static constexpr int kPeriod = K == 3 ? 3 : 1;
     T c[K];
     V<T> v[kPeriod];
-    explicit ConstOperand(const T* value) {
-        for (int k = 0; k < K; ++k) c[k] = value[k];
+    // count values are read (3 for AC4, whose unused fourth is set to 0).
+    ConstOperand(const T* value, int count) {
+        for (int k = 0; k < K; ++k) c[k] = k < count ? value[k] : T(0);
     }
     T at(int64_t i) const { return c[i % K]; }
     void start(int64_t i0) {  // the vectors for a body that starts at element i0

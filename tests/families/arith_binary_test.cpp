@@ -158,5 +158,20 @@ TEST(ArithBinary, StepsAreNotTestedAndErrorsWriteNothing) {
     EXPECT_EQ(qvniAddC_8u_AC4IRSfs(c, img.data(), 0, {5, 3}, 0), qvnOk);
 }
 
+// AC4 constants are three values: the fourth element past them is never read
+// (the array ends right before an inaccessible page).
+TEST(ArithBinary, Ac4ReadsThreeConstants) {
+    GuardedImage<Qvn16s> c({3, 1, 1, 0, true, 1});
+    c.at(0, 0) = 2; c.at(1, 0) = -3; c.at(2, 0) = 5;
+    GuardedImage<Qvn16s> img({19, 2, 4, 1, false, 2});
+    const int st = int(img.step());
+    EXPECT_EQ(qvniAddC_16s_AC4IRSfs(c.data(), img.data(), st, {19, 2}, 0), qvnOk);
+    EXPECT_EQ(qvniMulC_16s_AC4RSfs(img.data(), st, c.data(), img.data(), st, {19, 2}, 1), qvnOk);
+    EXPECT_EQ(qvniDivC_16s_AC4IRSfs(c.data(), img.data(), st, {19, 2}, 0), qvnOk);
+    GuardedImage<Qvn16u> cu({3, 1, 1, 0, true, 3});
+    GuardedImage<Qvn16u> imu({19, 2, 4, 1, false, 4});
+    EXPECT_EQ(qvniMulCScale_16u_AC4IR(cu.data(), imu.data(), int(imu.step()), {19, 2}), qvnOk);
+}
+
 }  // namespace
 }  // namespace qvn::test

@@ -165,7 +165,7 @@ T roundModel(std::int64_t x, std::int64_t y, int sf, int mode) {
     using ref::i128;
     if (y < 0) { x = -x; y = -y; }
     sf = sf > 60 ? 60 : sf < -60 ? -60 : sf;
-    const i128 num = sf < 0 ? i128(x) << -sf : i128(x), den = sf > 0 ? i128(y) << sf : i128(y);
+    const i128 num = sf < 0 ? i128(x) * (i128(1) << -sf) : i128(x), den = sf > 0 ? i128(y) << sf : i128(y);
     i128 t = num / den;  // toward zero
     const i128 r = (num % den) * 2, a = r < 0 ? -r : r;
     if (mode != qvnRndZero && (a > den || (a == den && (mode == qvnRndFinancial || (t & 1)))))

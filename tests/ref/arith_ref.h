@@ -32,7 +32,7 @@ inline i128 scaleRational(i128 num, i128 den, int sf) {
     if (sf > 60) return 0;
     if (sf < -60) sf = -60;
     if (sf >= 0) return divRoundEven(num, den << sf);
-    return divRoundEven(num << -sf, den);
+    return divRoundEven(num * (i128(1) << -sf), den);
 }
 
 // The scale-factor rule on an exact integer result.
