@@ -74,7 +74,10 @@ struct DivKernel : ZeroWatch<T> {
         return static_cast<T>(isa::toIntScalar(q));
     }
     V<F> quotient(V<F> x, V<F> y) const {
-        return isa::min(isa::max(isa::mul(isa::div(x, y), vscale), lo), hi);
+        const V<F> q = isa::mul(isa::div(x, y), vscale);
+        // unsigned quotients are not negative (0 / 0 is replaced afterwards)
+        if constexpr (std::is_signed_v<T>) return isa::min(isa::max(q, lo), hi);
+        else return isa::min(q, hi);
     }
     V<T> vector(V<T> x, V<T> y) {
         const V<T> zero = this->watch(y);
