@@ -3,6 +3,7 @@
 #define QVNIP_H
 
 #include "qvnip_types.h"
+#include "qvnip_arith.h"
 #include "qvnip_core.h"
 #include "qvnip_move.h"
 

@@ -523,6 +523,17 @@ inline Vec<T> swapFirstAndThird(Vec<T> a) {
     }
 }
 
+// ---- scale-factor arithmetic ----------------------------------------------------------
+// (The double/float lane conversions of the conversion block above serve here too.)
+// Double lanes from the high two int32 lanes (exact).
+inline Vec<double> toDoubleHi(Vec<std::int32_t> a) { return {_mm_cvtepi32_pd(_mm_unpackhi_epi64(a.v, a.v))}; }
+// One value rounded by the current rounding control (in range by the caller).
+inline std::int32_t toIntScalar(double x) { return _mm_cvtsd_si32(_mm_set_sd(x)); }
+inline std::int32_t toIntScalar(float x) { return _mm_cvtss_si32(_mm_set_ss(x)); }
+// Lanes of a all ones.
+template <class T>
+inline Vec<T> allOnes() { return fromBits<T>(_mm_set1_epi32(-1)); }
+
 }  // namespace isa
 QVN_TARGET_END
 
