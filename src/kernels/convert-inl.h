@@ -231,16 +231,30 @@ struct FloatConvert {
         return op;
     }
 
+    static constexpr int kVectors = int(kConvertBlock / isa::kLanes<W>);
+
     template <bool Keep, class Store>
     QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
-        using namespace isa;
-        constexpr int kN = int(kConvertBlock / kLanes<W>);
-        Vec<W> w[kN];
+        isa::Vec<W> w[kVectors];
         loadWide<S, W>(s, w);
-        for (int k = 0; k < kN; ++k) {
+        map(w);
+        finish<Keep, Store>(w, d, keep);
+    }
+
+    // The linear map of one block, in place.
+    QVN_ALWAYS_INLINE void map(isa::Vec<W>* w) const {
+        for (int k = 0; k < kVectors; ++k) {
+            if constexpr (kMap == Map::kMulAdd) w[k] = isa::add(isa::mul(w[k], mul), add);
+            if constexpr (kMap == Map::kScale) w[k] = isa::mul(isa::mul(w[k], mul), mul2);
+        }
+    }
+
+    // Rounding, saturation and the store of a mapped block.
+    template <bool Keep, class Store>
+    QVN_ALWAYS_INLINE void finish(isa::Vec<W>* w, D* d, isa::Vec<D> keep) const {
+        using namespace isa;
+        for (int k = 0; k < kVectors; ++k) {
             Vec<W> x = w[k];
-            if constexpr (kMap == Map::kMulAdd) x = isa::add(isa::mul(x, mul), add);
-            if constexpr (kMap == Map::kScale) x = isa::mul(isa::mul(x, mul), mul2);
             if constexpr (kFinancial) x = isa::add(x, bitOr(bitAnd(x, set1(W(-0.0))), set1(W(0.5))));
             if constexpr (std::is_integral_v<D> && sizeof(D) <= 2) {
                 // Conversions give INT32_MIN for NaN and out-of-range lanes,
@@ -258,6 +272,51 @@ struct FloatConvert {
             w[k] = x;
         }
         storeWide<D, Keep, Store>(d, w, keep);
+    }
+};
+
+// x * mul + add computed in float and rounded to an integer by the rounding
+// control, for results the caller has bounded well inside the int32 range
+// (no clamp before the conversion; the packs saturate to D). Without kChecked
+// the float results are the double results. With kChecked the caller bounds
+// the float error of every lane by some e < 1/8 and passes limit <= 0.5 - e:
+// a float result whose distance to its nearest integer is at most limit lies
+// closer than 0.5 to that integer in double as well, so both round to it. A
+// block with a lane farther from its integer (near a half, where the two could
+// round apart) is recomputed in double. Integer sources of up to 16 bits and
+// integer destinations only.
+template <class S, class D, bool kChecked>
+struct MulAddToInt {
+    FloatConvert<S, D, float, Map::kMulAdd, false> fast;
+    FloatConvert<S, D, double, Map::kMulAdd, false> exact;
+    isa::Vec<float> limit;
+
+    static MulAddToInt make(double mulBy, double addTo, float limitTo = 0.0f) {
+        return {FloatConvert<S, D, float, Map::kMulAdd, false>::make(float(mulBy), float(addTo)),
+                FloatConvert<S, D, double, Map::kMulAdd, false>::make(mulBy, addTo), isa::set1(limitTo)};
+    }
+
+    template <bool Keep, class Store>
+    QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
+        using namespace isa;
+        static_assert(std::is_integral_v<S> && sizeof(S) <= 2 && std::is_integral_v<D>, "small integers");
+        Vec<float> w[4];
+        loadWide<S, float>(s, w);
+        fast.map(w);
+        Vec<std::int32_t> v[4];
+        for (int k = 0; k < 4; ++k) v[k] = toInt(w[k]);
+        if constexpr (kChecked) {
+            Vec<float> far = zero<float>();
+            for (int k = 0; k < 4; ++k) {
+                const Vec<float> dist = andNot(set1(-0.0f), sub(w[k], toFloat(v[k])));
+                far = bitOr(far, cmpGt(dist, limit));
+            }
+            if (__builtin_expect(moveMask(far) != 0, 0)) {
+                exact.template block<Keep, Store>(s, d, keep);
+                return;
+            }
+        }
+        storeInt32<D, Keep, Store>(d, v, keep);
     }
 };
 

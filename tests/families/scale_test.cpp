@@ -161,6 +161,31 @@ TEST(ScaleC, EveryPair) {
     QVN_SC_FROM(Qvn64f, 64f);
 }
 
+// Constants for which float arithmetic rounds some results of 8- or 16-bit
+// sources apart from double ({-2.2, 1000.5}, {1/255, 0.5}), constants with
+// exact halves ({1/3, 0.5}: none exact in double) and constants whose results
+// are all exact floats ({0.5, 0.25}, {-1/1024, -0.5}); every source value.
+TEST(ScaleC, EverySmallSourceValueAsInDouble) {
+    const double maps[][2] = {{-2.2, 1000.5}, {1.0 / 255, 0.5}, {1.0 / 3, 0.5}, {0.5, 0.25}, {-1.0 / 1024, -0.5}};
+    for (const auto& m : maps) {
+        SCOPED_TRACE(testing::Message() << "mVal " << m[0] << " aVal " << m[1]);
+#define QVN_SC_EX(S, D, tok)                                                                        \
+    exhaustive<S, D>(QVN_CALL_ARGS(qvniScaleC_##tok##_C1R, m[0], m[1], 0),                          \
+                     [&](S s) { return ref::to<D>(double(s) * m[0] + m[1]); })
+        QVN_SC_EX(Qvn8u, Qvn16s, 8u16s);
+        QVN_SC_EX(Qvn8u, Qvn32f, 8u32f);
+        QVN_SC_EX(Qvn8s, Qvn8u, 8s8u);
+        QVN_SC_EX(Qvn8s, Qvn32s, 8s32s);
+        QVN_SC_EX(Qvn16u, Qvn8u, 16u8u);
+        QVN_SC_EX(Qvn16u, Qvn16s, 16u16s);
+        QVN_SC_EX(Qvn16u, Qvn32f, 16u32f);
+        QVN_SC_EX(Qvn16s, Qvn8s, 16s8s);
+        QVN_SC_EX(Qvn16s, Qvn16u, 16s16u);
+        QVN_SC_EX(Qvn16s, Qvn32s, 16s32s);
+#undef QVN_SC_EX
+    }
+}
+
 TEST(ScaleC, InPlace) {
     scaleCInPlace<Qvn8u>(qvniScaleC_8u_C1IR);
     scaleCInPlace<Qvn8s>(qvniScaleC_8s_C1IR);
