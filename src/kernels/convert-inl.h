@@ -253,9 +253,27 @@ struct FloatConvert {
     template <bool Keep, class Store>
     QVN_ALWAYS_INLINE void finish(isa::Vec<W>* w, D* d, isa::Vec<D> keep) const {
         using namespace isa;
+        if constexpr (kFinancial) {
+            for (int k = 0; k < kVectors; ++k)
+                w[k] = isa::add(w[k], bitOr(bitAnd(w[k], set1(W(-0.0))), set1(W(0.5))));
+        }
+        if constexpr (std::is_same_v<W, float> && std::is_integral_v<D> && std::is_signed_v<D> && sizeof(D) <= 2) {
+            // Converted as they are, every lane is right (the packs saturate
+            // the low end) unless it is NaN or at least 2^31, which convert
+            // to INT32_MIN; a block with such a lane takes the clamps below.
+            Vec<std::int32_t> v[kVectors];
+            Vec<float> special = zero<float>();
+            for (int k = 0; k < kVectors; ++k) {
+                v[k] = toInt(w[k]);
+                special = bitOr(special, cmpNotLess(w[k], set1(2147483648.0f)));
+            }
+            if (__builtin_expect(moveMask(special) == 0, 1)) {
+                storeInt32<D, Keep, Store>(d, v, keep);
+                return;
+            }
+        }
         for (int k = 0; k < kVectors; ++k) {
             Vec<W> x = w[k];
-            if constexpr (kFinancial) x = isa::add(x, bitOr(bitAnd(x, set1(W(-0.0))), set1(W(0.5))));
             if constexpr (std::is_integral_v<D> && sizeof(D) <= 2) {
                 // Conversions give INT32_MIN for NaN and out-of-range lanes,
                 // which the packs saturate to the minimum: only the top needs

@@ -476,6 +476,10 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
     out[0] = x, out[1] = y, out[2] = z;
 }
 
+// ---- conversion family -------------------------------------------------------------------
+// Lanes where a < b does not hold: a >= b, or either is NaN.
+inline Vec<float> cmpNotLess(Vec<float> a, Vec<float> b) { return {_mm_cmpnlt_ps(a.v, b.v)}; }
+
 }  // namespace isa
 QVN_TARGET_END
 
