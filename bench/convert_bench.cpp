@@ -110,5 +110,30 @@ QB_REGISTER("ScaleC_32f8u_C1R", scaleC<Qvn32f, Qvn8u>(qvniScaleC_32f8u_C1R, 1.0 
 QB_REGISTER("ScaleC_32f_C1R", scaleC<Qvn32f, Qvn32f>(qvniScaleC_32f_C1R, 1.0 / 3, 0.2, Opts().tolerance(1e-6)));
 #endif
 
+// 1-bit images have no peer: checked against a bit-by-bit reference. The
+// 1-bit side is a full 8u image of which each row's first width / 8 bytes
+// are used, so the bound column counts more bytes than are touched.
+#ifdef QVN_HAS_qvniBinToGray_1u8u_C1R
+QB_REGISTER("BinToGray_1u8u_C1R", unary<Qvn8u, Qvn8u>(1, 1, [](const Image<Qvn8u>& s, Image<Qvn8u>& d) {
+    return qvniBinToGray_1u8u_C1R(s.p(), s.step(), 0, d.p(), d.step(), s.roi(), 10, 200);
+}, reference([](const Image<Qvn8u>& s, Image<Qvn8u>& d) {
+    forEachElem(d, [&](int y, std::size_t i) { return Qvn8u((s.row(y)[i / 8] >> (7 - i % 8)) & 1 ? 200 : 10); });
+})));
+#endif
+#ifdef QVN_HAS_qvniGrayToBin_8u1u_C1R
+QB_REGISTER("GrayToBin_8u1u_C1R", unary<Qvn8u, Qvn8u>(1, 1, [](const Image<Qvn8u>& s, Image<Qvn8u>& d) {
+    return qvniGrayToBin_8u1u_C1R(s.p(), s.step(), d.p(), d.step(), 0, s.roi(), 127);
+}, reference([](const Image<Qvn8u>& s, Image<Qvn8u>& d) {
+    const std::size_t bytes = (std::size_t(s.roi().width) + 7) / 8;
+    forEachElem(d, [&](int y, std::size_t i) {
+        if (i >= bytes) return d.row(y)[i];
+        int b = d.row(y)[i];  // bits past the last pixel keep their value
+        for (std::size_t k = 0; k < 8 && 8 * i + k < std::size_t(s.roi().width); ++k)
+            b = (b & ~(0x80 >> k)) | (s.row(y)[8 * i + k] > 127) << (7 - k);
+        return Qvn8u(b);
+    });
+})));
+#endif
+
 }  // namespace
 }  // namespace qbench

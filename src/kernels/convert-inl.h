@@ -34,6 +34,7 @@ QVN_TARGET_BEGIN
 namespace kernels {
 
 inline constexpr std::int64_t kConvertBlock = 16;  // elements per block
+inline constexpr std::int64_t kPrefetchAhead = 1024;  // source bytes read ahead
 
 // Stores v at the 16-byte aligned p; with Keep the lanes set in keep (alpha)
 // keep the destination's previous value.
@@ -377,7 +378,10 @@ inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
         convertStaged<Keep>(op, s, d, i, head - i < kConvertBlock ? head - i : kConvertBlock);
     i = head;
     const isa::Vec<D> keep = Keep ? alphaMask<D>(head) : isa::zero<D>();
-    for (; i + kConvertBlock <= n; i += kConvertBlock) op.template block<Keep, Store>(s + i, d + i, keep);
+    for (; i + kConvertBlock <= n; i += kConvertBlock) {
+        isa::prefetch(s + i + kPrefetchAhead / sizeof(S));
+        op.template block<Keep, Store>(s + i, d + i, keep);
+    }
     if (i < n) convertStaged<Keep>(op, s, d, i, n - i);
 }
 

@@ -479,6 +479,10 @@ inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
 // ---- conversion family -------------------------------------------------------------------
 // Lanes where a < b does not hold: a >= b, or either is NaN.
 inline Vec<float> cmpNotLess(Vec<float> a, Vec<float> b) { return {_mm_cmpnlt_ps(a.v, b.v)}; }
+// Hint to bring the cache line holding p into every cache level.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+// x in the low 32-bit lane, zeros above.
+inline Vec<std::uint32_t> fromLow32(std::uint32_t x) { return {_mm_cvtsi32_si128(static_cast<int>(x))}; }
 
 }  // namespace isa
 QVN_TARGET_END
