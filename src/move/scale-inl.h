@@ -157,23 +157,30 @@ inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t
         // magnitude, so they convert to int32 without a clamp.
         bool same = exactInFloat(sMax, mVal, aVal);
         const bool bounded = same || err < 0.125;
+        // 8-bit sources: all 256 results in double, once; a float form is as
+        // good when it gives the same bits for every one of them.
+        alignas(16) S all[256];
         alignas(16) D want[256];
-        if constexpr (sizeof(S) == 1) {
-            // 8-bit sources: all 256 results in double, once; float is as
-            // good when it gives the same bits for every one of them.
-            alignas(16) S all[256];
+        const auto matchesAll = [&](const auto& op) {
             alignas(16) D got[256];
+            kernels::convertRow<false, kernels::StoreRegular>(op, all, got, 256);
+            return std::memcmp(want, got, sizeof(want)) == 0;
+        };
+        if constexpr (sizeof(S) == 1) {
             for (int v = 0; v < 256; ++v) all[v] = S(v);
             kernels::convertRow<false, kernels::StoreRegular>(Exact::make(mVal, aVal), all, want, 256);
-            if (!same && err < HUGE_VAL) {
-                kernels::convertRow<false, kernels::StoreRegular>(Fast::make(float(mVal), float(aVal)), all, got, 256);
-                same = std::memcmp(want, got, sizeof(want)) == 0;
-            }
+            if (!same && err < HUGE_VAL) same = matchesAll(Fast::make(float(mVal), float(aVal)));
         }
         if constexpr (std::is_integral_v<D>) {
             if (same && bounded) return run(kernels::MulAddToInt<S, D, false>::make(mVal, aVal));
         }
         if (same) return run(Fast::make(float(mVal), float(aVal)));
+        if constexpr (sizeof(S) == 1 && std::is_same_v<D, Qvn32f>) {
+            if (err < HUGE_VAL) {
+                const auto split = kernels::SplitMulAdd<S>::make(mVal, aVal);
+                if (matchesAll(split)) return run(split);
+            }
+        }
         if constexpr (std::is_integral_v<D>) {
             if (err < 0.125)
                 return run(kernels::MulAddToInt<S, D, true>::make(mVal, aVal, float(0.5 - err) - 0x1p-20f));

@@ -164,9 +164,11 @@ TEST(ScaleC, EveryPair) {
 // Constants for which float arithmetic rounds some results of 8- or 16-bit
 // sources apart from double ({-2.2, 1000.5}, {1/255, 0.5}), constants with
 // exact halves ({1/3, 0.5}: none exact in double) and constants whose results
-// are all exact floats ({0.5, 0.25}, {-1/1024, -0.5}); every source value.
+// are all exact floats ({0.5, 0.25}, {-1/1024, -0.5}), and multipliers that
+// are not floats ({1/255, 0}, {-0.7, 0}); every source value.
 TEST(ScaleC, EverySmallSourceValueAsInDouble) {
-    const double maps[][2] = {{-2.2, 1000.5}, {1.0 / 255, 0.5}, {1.0 / 3, 0.5}, {0.5, 0.25}, {-1.0 / 1024, -0.5}};
+    const double maps[][2] = {{-2.2, 1000.5}, {1.0 / 255, 0.5}, {1.0 / 3, 0.5}, {0.5, 0.25}, {-1.0 / 1024, -0.5},
+                              {1.0 / 255, 0.0}, {-0.7, 0.0}};
     for (const auto& m : maps) {
         SCOPED_TRACE(testing::Message() << "mVal " << m[0] << " aVal " << m[1]);
 #define QVN_SC_EX(S, D, tok)                                                                        \
