@@ -410,7 +410,8 @@ inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
     i = head;
     const isa::Vec<D> keep = Keep ? alphaMask<D>(head) : isa::zero<D>();
     for (; i + kConvertBlock <= n; i += kConvertBlock) {
-        isa::prefetch(s + i + kPrefetchAhead / sizeof(S));
+        // one hint per cache line: blocks of 4-byte and wider sources span one
+        if constexpr (sizeof(S) >= 4) isa::prefetch(s + i + kPrefetchAhead / sizeof(S));
         op.template block<Keep, Store>(s + i, d + i, keep);
     }
     if (i < n) convertStaged<Keep>(op, s, d, i, n - i);
