@@ -339,12 +339,13 @@ struct MulAddToInt {
     }
 };
 
-// s * m + a into float for 8-bit sources, with m split in two floats: hi, m's
-// leading 16 bits, so that s * hi is exact, and lo, the rest rounded to a
-// float. The result carries an error far below float's own rounding (with a
-// = 0, about 2^-40 relative), so it rounds as the double computation does
-// except for results within that distance of a rounding boundary; the caller
-// compares all 256 source values before using it.
+// s * m + a into float for 8- and 16-bit sources, with m split in two floats:
+// hi, m's leading 16 (8-bit sources) or 8 bits, so that s * hi is exact, and
+// lo, the rest rounded to a float. The result carries an error far below
+// float's own rounding (with a = 0, about 2^-40 or 2^-32 relative), so it
+// rounds as the double computation does except for results within that
+// distance of a rounding boundary; the caller compares every source value
+// before using it.
 template <class S>
 struct SplitMulAdd {
     isa::Vec<float> hi, lo, add;
@@ -353,7 +354,7 @@ struct SplitMulAdd {
         std::uint32_t bits;
         const float m = float(mulBy);
         std::memcpy(&bits, &m, sizeof bits);
-        bits &= 0xFFFFFF00u;  // 24-bit significand down to 16 bits
+        bits &= sizeof(S) == 1 ? 0xFFFFFF00u : 0xFFFF0000u;  // 24-bit significand to 16 or 8 bits
         float h;
         std::memcpy(&h, &bits, sizeof h);
         return {isa::set1(h), isa::set1(float(mulBy - double(h))), isa::set1(float(addTo))};
@@ -362,7 +363,7 @@ struct SplitMulAdd {
     template <bool Keep, class Store>
     QVN_ALWAYS_INLINE void block(const S* s, float* d, isa::Vec<float> keep) const {
         using namespace isa;
-        static_assert(sizeof(S) == 1, "8-bit sources");
+        static_assert(std::is_integral_v<S> && sizeof(S) <= 2, "8- and 16-bit sources");
         Vec<float> w[4];
         loadWide<S, float>(s, w);
         for (int k = 0; k < 4; ++k) w[k] = isa::add(mul(w[k], hi), isa::add(mul(w[k], lo), add));

@@ -128,6 +128,27 @@ inline double floatErrorBound(double sMax, double m, double a) {
     return (3.0 * sMax * std::fabs(m) + 2.0 * std::fabs(a)) * 0x1p-24 * 1.001 + 0x1p-40;
 }
 
+// Whether op gives the same bits as ref for every value of the 16-bit S.
+template <class S, class D, class Op, class Ref>
+inline bool matchesEvery(const Op& op, const Ref& ref) {
+    constexpr int kChunk = 4096;
+    alignas(16) S all[kChunk];
+    alignas(16) D want[kChunk];
+    alignas(16) D got[kChunk];
+    for (std::int64_t base = std::numeric_limits<S>::min(); base <= std::numeric_limits<S>::max(); base += kChunk) {
+        for (int i = 0; i < kChunk; ++i) all[i] = S(base + i);
+        kernels::convertRow<false, kernels::StoreRegular>(ref, all, want, kChunk);
+        kernels::convertRow<false, kernels::StoreRegular>(op, all, got, kChunk);
+        if (std::memcmp(want, got, sizeof(want)) != 0) return false;
+    }
+    return true;
+}
+
+// From this many pixels a call of a 16-bit source compares all 65536 source
+// values of a float form with double first (from there on, less than the
+// per-block check it saves).
+inline constexpr std::uint64_t kCompareEveryFrom = std::uint64_t(1) << 19;
+
 // qvniScaleC: d = s * mVal + aVal computed in double, rounded to nearest with
 // halves to even and saturated for integer destinations (NaN gives 0),
 // rounded to nearest for 32f. Pointers, ROI, steps, hint; every hint gives
@@ -135,9 +156,10 @@ inline double floatErrorBound(double sMax, double m, double a) {
 //
 // Float arithmetic is used where it gives the same result for every source
 // value, decided once per call: when every s * mVal + aVal is exactly a float,
-// when (8-bit sources) all 256 results compare equal, or (integer
-// destinations) when the float error is bounded below 1/8 and the blocks with
-// a result near a half are recomputed in double.
+// when all 256 results (8-bit sources; 65536 for 16-bit sources of large
+// images) compare equal, or (integer destinations) when the float error is
+// bounded below 1/8 and the blocks with a result near a half are recomputed
+// in double.
 template <class S, class D>
 inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t dstStep, RoiL roi, double mVal,
                         double aVal, int hint) {
@@ -170,6 +192,17 @@ inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t
             for (int v = 0; v < 256; ++v) all[v] = S(v);
             kernels::convertRow<false, kernels::StoreRegular>(Exact::make(mVal, aVal), all, want, 256);
             if (!same && err < HUGE_VAL) same = matchesAll(Fast::make(float(mVal), float(aVal)));
+        }
+        if constexpr (sizeof(S) == 2) {
+            if (!same && err < HUGE_VAL && std::uint64_t(roi.width) * std::uint64_t(roi.height) >= kCompareEveryFrom) {
+                if constexpr (std::is_integral_v<D>) {
+                    const auto fast = kernels::MulAddToInt<S, D, false>::make(mVal, aVal);
+                    if (bounded && matchesEvery<S, D>(fast, Exact::make(mVal, aVal))) return run(fast);
+                } else {
+                    const auto split = kernels::SplitMulAdd<S>::make(mVal, aVal);
+                    if (matchesEvery<S, D>(split, Exact::make(mVal, aVal))) return run(split);
+                }
+            }
         }
         if constexpr (std::is_integral_v<D>) {
             if (same && bounded) return run(kernels::MulAddToInt<S, D, false>::make(mVal, aVal));

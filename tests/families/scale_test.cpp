@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
+#include <utility>
 #include <vector>
 
 #include "families/convert_sweep.h"
@@ -185,6 +187,32 @@ TEST(ScaleC, EverySmallSourceValueAsInDouble) {
         QVN_SC_EX(Qvn16s, Qvn16u, 16s16u);
         QVN_SC_EX(Qvn16s, Qvn32s, 16s32s);
 #undef QVN_SC_EX
+    }
+}
+
+// Images of half a million pixels and more take other shortcuts for 16-bit
+// sources: one image holding every source value, compared whole.
+template <class S, class D, class Fn>
+void scaleCLarge(Fn fn, double mul, double add) {
+    SCOPED_TRACE(testing::Message() << "mVal " << mul << " aVal " << add);
+    const int w = 2048, h = 1024;
+    std::vector<S> src(std::size_t(w) * h);
+    for (std::size_t i = 0; i < src.size(); ++i) src[i] = S(std::int64_t(std::numeric_limits<S>::min()) + std::int64_t(i % 65536));
+    std::vector<D> dst(src.size());
+    ASSERT_EQ(fn(src.data(), int(w * sizeof(S)), dst.data(), int(w * sizeof(D)), QvnRoiSize{w, h}, mul, add, 0), qvnOk);
+    for (std::size_t i = 0; i < src.size(); ++i) {
+        const D want = ref::to<D>(double(src[i]) * mul + add);
+        ASSERT_TRUE(sameValue(dst[i], want)) << "source " << printable(src[i]) << " got " << printable(dst[i])
+                                             << " want " << printable(want);
+    }
+}
+
+TEST(ScaleC, LargeImagesOfSixteenBitSources) {
+    for (const auto& m : {std::pair{-2.2, 1000.5}, std::pair{1.0 / 255, 0.5}, std::pair{1.0 / 255, 0.0}}) {
+        scaleCLarge<Qvn16u, Qvn8u>(qvniScaleC_16u8u_C1R, m.first, m.second);
+        scaleCLarge<Qvn16s, Qvn32s>(qvniScaleC_16s32s_C1R, m.first, m.second);
+        scaleCLarge<Qvn16u, Qvn32f>(qvniScaleC_16u32f_C1R, m.first, m.second);
+        scaleCLarge<Qvn16s, Qvn32f>(qvniScaleC_16s32f_C1R, m.first, m.second);
     }
 }
 
