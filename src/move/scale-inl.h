@@ -131,7 +131,7 @@ inline double floatErrorBound(double sMax, double m, double a) {
 // Whether op gives the same bits as ref for every value of the 16-bit S.
 template <class S, class D, class Op, class Ref>
 inline bool matchesEvery(const Op& op, const Ref& ref) {
-    constexpr int kChunk = 4096;
+    constexpr int kChunk = 1024;
     alignas(16) S all[kChunk];
     alignas(16) D want[kChunk];
     alignas(16) D got[kChunk];
