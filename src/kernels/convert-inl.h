@@ -325,12 +325,10 @@ struct MulAddToInt {
         Vec<std::int32_t> v[4];
         for (int k = 0; k < 4; ++k) v[k] = toInt(w[k]);
         if constexpr (kChecked) {
+            // the largest distance of the block's lanes to their integers
             Vec<float> far = zero<float>();
-            for (int k = 0; k < 4; ++k) {
-                const Vec<float> dist = andNot(set1(-0.0f), sub(w[k], toFloat(v[k])));
-                far = bitOr(far, cmpGt(dist, limit));
-            }
-            if (__builtin_expect(moveMask(far) != 0, 0)) {
+            for (int k = 0; k < 4; ++k) far = max(far, andNot(set1(-0.0f), sub(w[k], toFloat(v[k]))));
+            if (__builtin_expect(moveMask(cmpGt(far, limit)) != 0, 0)) {
                 exact.template block<Keep, Store>(s, d, keep);
                 return;
             }
