@@ -263,12 +263,12 @@ struct FloatConvert {
             // the low end) unless it is NaN or at least 2^31, which convert
             // to INT32_MIN; a block with such a lane takes the clamps below.
             Vec<std::int32_t> v[kVectors];
-            Vec<float> special = zero<float>();
+            Vec<float> unusual = zero<float>();
             for (int k = 0; k < kVectors; ++k) {
                 v[k] = toInt(w[k]);
-                special = bitOr(special, cmpNotLess(w[k], set1(2147483648.0f)));
+                unusual = bitOr(unusual, cmpNotLess(w[k], set1(2147483648.0f)));
             }
-            if (__builtin_expect(moveMask(special) == 0, 1)) {
+            if (__builtin_expect(moveMask(unusual) == 0, 1)) {
                 storeInt32<D, Keep, Store>(d, v, keep);
                 return;
             }
