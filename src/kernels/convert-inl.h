@@ -34,6 +34,7 @@ QVN_TARGET_BEGIN
 namespace kernels {
 
 inline constexpr std::int64_t kConvertBlock = 16;  // elements per block
+inline constexpr std::int64_t kPrefetchAhead = 1024;  // source bytes read ahead
 
 // Stores v at the 16-byte aligned p; with Keep the lanes set in keep (alpha)
 // keep the destination's previous value.
@@ -231,17 +232,49 @@ struct FloatConvert {
         return op;
     }
 
+    static constexpr int kVectors = int(kConvertBlock / isa::kLanes<W>);
+
     template <bool Keep, class Store>
     QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
-        using namespace isa;
-        constexpr int kN = int(kConvertBlock / kLanes<W>);
-        Vec<W> w[kN];
+        isa::Vec<W> w[kVectors];
         loadWide<S, W>(s, w);
-        for (int k = 0; k < kN; ++k) {
+        map(w);
+        finish<Keep, Store>(w, d, keep);
+    }
+
+    // The linear map of one block, in place.
+    QVN_ALWAYS_INLINE void map(isa::Vec<W>* w) const {
+        for (int k = 0; k < kVectors; ++k) {
+            if constexpr (kMap == Map::kMulAdd) w[k] = isa::add(isa::mul(w[k], mul), add);
+            if constexpr (kMap == Map::kScale) w[k] = isa::mul(isa::mul(w[k], mul), mul2);
+        }
+    }
+
+    // Rounding, saturation and the store of a mapped block.
+    template <bool Keep, class Store>
+    QVN_ALWAYS_INLINE void finish(isa::Vec<W>* w, D* d, isa::Vec<D> keep) const {
+        using namespace isa;
+        if constexpr (kFinancial) {
+            for (int k = 0; k < kVectors; ++k)
+                w[k] = isa::add(w[k], bitOr(bitAnd(w[k], set1(W(-0.0))), set1(W(0.5))));
+        }
+        if constexpr (std::is_same_v<W, float> && std::is_integral_v<D> && std::is_signed_v<D> && sizeof(D) <= 2) {
+            // Converted as they are, every lane is right (the packs saturate
+            // the low end) unless it is NaN or at least 2^31, which convert
+            // to INT32_MIN; a block with such a lane takes the clamps below.
+            Vec<std::int32_t> v[kVectors];
+            Vec<float> unusual = zero<float>();
+            for (int k = 0; k < kVectors; ++k) {
+                v[k] = toInt(w[k]);
+                unusual = bitOr(unusual, cmpNotLess(w[k], set1(2147483648.0f)));
+            }
+            if (__builtin_expect(moveMask(unusual) == 0, 1)) {
+                storeInt32<D, Keep, Store>(d, v, keep);
+                return;
+            }
+        }
+        for (int k = 0; k < kVectors; ++k) {
             Vec<W> x = w[k];
-            if constexpr (kMap == Map::kMulAdd) x = isa::add(isa::mul(x, mul), add);
-            if constexpr (kMap == Map::kScale) x = isa::mul(isa::mul(x, mul), mul2);
-            if constexpr (kFinancial) x = isa::add(x, bitOr(bitAnd(x, set1(W(-0.0))), set1(W(0.5))));
             if constexpr (std::is_integral_v<D> && sizeof(D) <= 2) {
                 // Conversions give INT32_MIN for NaN and out-of-range lanes,
                 // which the packs saturate to the minimum: only the top needs
@@ -258,6 +291,81 @@ struct FloatConvert {
             w[k] = x;
         }
         storeWide<D, Keep, Store>(d, w, keep);
+    }
+};
+
+// x * mul + add computed in float and rounded to an integer by the rounding
+// control, for results the caller has bounded well inside the int32 range
+// (no clamp before the conversion; the packs saturate to D). Without kChecked
+// the float results are the double results. With kChecked the caller bounds
+// the float error of every lane by some e < 1/8 and passes limit <= 0.5 - e:
+// a float result whose distance to its nearest integer is at most limit lies
+// closer than 0.5 to that integer in double as well, so both round to it. A
+// block with a lane farther from its integer (near a half, where the two could
+// round apart) is recomputed in double. Integer sources of up to 16 bits and
+// integer destinations only.
+template <class S, class D, bool kChecked>
+struct MulAddToInt {
+    FloatConvert<S, D, float, Map::kMulAdd, false> fast;
+    FloatConvert<S, D, double, Map::kMulAdd, false> exact;
+    isa::Vec<float> limit;
+
+    static MulAddToInt make(double mulBy, double addTo, float limitTo = 0.0f) {
+        return {FloatConvert<S, D, float, Map::kMulAdd, false>::make(float(mulBy), float(addTo)),
+                FloatConvert<S, D, double, Map::kMulAdd, false>::make(mulBy, addTo), isa::set1(limitTo)};
+    }
+
+    template <bool Keep, class Store>
+    QVN_ALWAYS_INLINE void block(const S* s, D* d, isa::Vec<D> keep) const {
+        using namespace isa;
+        static_assert(std::is_integral_v<S> && sizeof(S) <= 2 && std::is_integral_v<D>, "small integers");
+        Vec<float> w[4];
+        loadWide<S, float>(s, w);
+        fast.map(w);
+        Vec<std::int32_t> v[4];
+        for (int k = 0; k < 4; ++k) v[k] = toInt(w[k]);
+        if constexpr (kChecked) {
+            // the largest distance of the block's lanes to their integers
+            Vec<float> far = zero<float>();
+            for (int k = 0; k < 4; ++k) far = max(far, andNot(set1(-0.0f), sub(w[k], toFloat(v[k]))));
+            if (__builtin_expect(moveMask(cmpGt(far, limit)) != 0, 0)) {
+                exact.template block<Keep, Store>(s, d, keep);
+                return;
+            }
+        }
+        storeInt32<D, Keep, Store>(d, v, keep);
+    }
+};
+
+// s * m + a into float for 8- and 16-bit sources, with m split in two floats:
+// hi, m's leading 16 (8-bit sources) or 8 bits, so that s * hi is exact, and
+// lo, the rest rounded to a float. The result carries an error far below
+// float's own rounding (with a = 0, about 2^-40 or 2^-32 relative), so it
+// rounds as the double computation does except for results within that
+// distance of a rounding boundary; the caller compares every source value
+// before using it.
+template <class S>
+struct SplitMulAdd {
+    isa::Vec<float> hi, lo, add;
+
+    static SplitMulAdd make(double mulBy, double addTo) {
+        std::uint32_t bits;
+        const float m = float(mulBy);
+        std::memcpy(&bits, &m, sizeof bits);
+        bits &= sizeof(S) == 1 ? 0xFFFFFF00u : 0xFFFF0000u;  // 24-bit significand to 16 or 8 bits
+        float h;
+        std::memcpy(&h, &bits, sizeof h);
+        return {isa::set1(h), isa::set1(float(mulBy - double(h))), isa::set1(float(addTo))};
+    }
+
+    template <bool Keep, class Store>
+    QVN_ALWAYS_INLINE void block(const S* s, float* d, isa::Vec<float> keep) const {
+        using namespace isa;
+        static_assert(std::is_integral_v<S> && sizeof(S) <= 2, "8- and 16-bit sources");
+        Vec<float> w[4];
+        loadWide<S, float>(s, w);
+        for (int k = 0; k < 4; ++k) w[k] = isa::add(mul(w[k], hi), isa::add(mul(w[k], lo), add));
+        storeWide<float, Keep, Store>(d, w, keep);
     }
 };
 
@@ -300,7 +408,11 @@ inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
         convertStaged<Keep>(op, s, d, i, head - i < kConvertBlock ? head - i : kConvertBlock);
     i = head;
     const isa::Vec<D> keep = Keep ? alphaMask<D>(head) : isa::zero<D>();
-    for (; i + kConvertBlock <= n; i += kConvertBlock) op.template block<Keep, Store>(s + i, d + i, keep);
+    for (; i + kConvertBlock <= n; i += kConvertBlock) {
+        // one hint per cache line: blocks of 4-byte and wider sources span one
+        if constexpr (sizeof(S) >= 4) isa::prefetch(s + i + kPrefetchAhead / sizeof(S));
+        op.template block<Keep, Store>(s + i, d + i, keep);
+    }
     if (i < n) convertStaged<Keep>(op, s, d, i, n - i);
 }
 

@@ -9,6 +9,7 @@
 
 #include "core/check-inl.h"
 #include "core/image.h"
+#include "kernels/bin-inl.h"
 
 QVN_TARGET_BEGIN
 namespace move {
@@ -30,14 +31,19 @@ inline QvnStatus binToGray(const Qvn8u* src, std::int64_t srcStep, int srcBitOff
         const Qvn8u* s = byteOffset(src, y * srcStep);
         D* d = byteOffset(dst, y * dstStep);
         std::int64_t x = 0;
-        unsigned bits = s[0];
         int pos = srcBitOffset;
         while (x < roi.width) {
-            for (; pos < 8 && x < roi.width; ++pos, ++x) d[x] = value[(bits >> (7 - pos)) & 1u];
-            if (x < roi.width) {
-                bits = *++s;
-                pos = 0;
+            if (pos == 0 && roi.width - x >= 16) {
+                // whole bytes from here on: sixteen pixels at a time
+                const std::int64_t n = (roi.width - x) / 16 * 16;
+                kernels::expandBits(s, d + x, n, loVal, hiVal);
+                x += n;
+                s += n / 8;
+                continue;
             }
+            const unsigned bits = *s++;
+            for (; pos < 8 && x < roi.width; ++pos, ++x) d[x] = value[(bits >> (7 - pos)) & 1u];
+            pos = 0;
         }
     }
     return qvnOk;
@@ -59,6 +65,14 @@ inline QvnStatus grayToBin(const S* src, std::int64_t srcStep, Qvn8u* dst, std::
         std::int64_t x = 0;
         int pos = dstBitOffset;
         while (x < roi.width) {
+            if (pos == 0 && roi.width - x >= 16) {
+                // whole destination bytes from here on: sixteen pixels at a time
+                const std::int64_t n = (roi.width - x) / 16 * 16;
+                kernels::packBits(s + x, d, n, threshold);
+                x += n;
+                d += n / 8;
+                continue;
+            }
             unsigned acc = 0, mask = 0;
             for (; pos < 8 && x < roi.width; ++pos, ++x) {
                 const unsigned bit = 0x80u >> pos;

@@ -2,6 +2,8 @@
 #include <gtest/gtest.h>
 
 #include <cmath>
+#include <limits>
+#include <utility>
 #include <vector>
 
 #include "families/convert_sweep.h"
@@ -159,6 +161,59 @@ TEST(ScaleC, EveryPair) {
     QVN_SC_FROM(Qvn32s, 32s);
     QVN_SC_FROM(Qvn32f, 32f);
     QVN_SC_FROM(Qvn64f, 64f);
+}
+
+// Constants for which float arithmetic rounds some results of 8- or 16-bit
+// sources apart from double ({-2.2, 1000.5}, {1/255, 0.5}), constants with
+// exact halves ({1/3, 0.5}: none exact in double) and constants whose results
+// are all exact floats ({0.5, 0.25}, {-1/1024, -0.5}), and multipliers that
+// are not floats ({1/255, 0}, {-0.7, 0}); every source value.
+TEST(ScaleC, EverySmallSourceValueAsInDouble) {
+    const double maps[][2] = {{-2.2, 1000.5}, {1.0 / 255, 0.5}, {1.0 / 3, 0.5}, {0.5, 0.25}, {-1.0 / 1024, -0.5},
+                              {1.0 / 255, 0.0}, {-0.7, 0.0}};
+    for (const auto& m : maps) {
+        SCOPED_TRACE(testing::Message() << "mVal " << m[0] << " aVal " << m[1]);
+#define QVN_SC_EX(S, D, tok)                                                                        \
+    exhaustive<S, D>(QVN_CALL_ARGS(qvniScaleC_##tok##_C1R, m[0], m[1], 0),                          \
+                     [&](S s) { return ref::to<D>(double(s) * m[0] + m[1]); })
+        QVN_SC_EX(Qvn8u, Qvn16s, 8u16s);
+        QVN_SC_EX(Qvn8u, Qvn32f, 8u32f);
+        QVN_SC_EX(Qvn8s, Qvn8u, 8s8u);
+        QVN_SC_EX(Qvn8s, Qvn32s, 8s32s);
+        QVN_SC_EX(Qvn16u, Qvn8u, 16u8u);
+        QVN_SC_EX(Qvn16u, Qvn16s, 16u16s);
+        QVN_SC_EX(Qvn16u, Qvn32f, 16u32f);
+        QVN_SC_EX(Qvn16s, Qvn8s, 16s8s);
+        QVN_SC_EX(Qvn16s, Qvn16u, 16s16u);
+        QVN_SC_EX(Qvn16s, Qvn32s, 16s32s);
+#undef QVN_SC_EX
+    }
+}
+
+// Images of half a million pixels and more take other shortcuts for 16-bit
+// sources: one image holding every source value, compared whole.
+template <class S, class D, class Fn>
+void scaleCLarge(Fn fn, double mul, double add) {
+    SCOPED_TRACE(testing::Message() << "mVal " << mul << " aVal " << add);
+    const int w = 2048, h = 1024;
+    std::vector<S> src(std::size_t(w) * h);
+    for (std::size_t i = 0; i < src.size(); ++i) src[i] = S(std::int64_t(std::numeric_limits<S>::min()) + std::int64_t(i % 65536));
+    std::vector<D> dst(src.size());
+    ASSERT_EQ(fn(src.data(), int(w * sizeof(S)), dst.data(), int(w * sizeof(D)), QvnRoiSize{w, h}, mul, add, 0), qvnOk);
+    for (std::size_t i = 0; i < src.size(); ++i) {
+        const D want = ref::to<D>(double(src[i]) * mul + add);
+        ASSERT_TRUE(sameValue(dst[i], want)) << "source " << printable(src[i]) << " got " << printable(dst[i])
+                                             << " want " << printable(want);
+    }
+}
+
+TEST(ScaleC, LargeImagesOfSixteenBitSources) {
+    for (const auto& m : {std::pair{-2.2, 1000.5}, std::pair{1.0 / 255, 0.5}, std::pair{1.0 / 255, 0.0}}) {
+        scaleCLarge<Qvn16u, Qvn8u>(qvniScaleC_16u8u_C1R, m.first, m.second);
+        scaleCLarge<Qvn16s, Qvn32s>(qvniScaleC_16s32s_C1R, m.first, m.second);
+        scaleCLarge<Qvn16u, Qvn32f>(qvniScaleC_16u32f_C1R, m.first, m.second);
+        scaleCLarge<Qvn16s, Qvn32f>(qvniScaleC_16s32f_C1R, m.first, m.second);
+    }
 }
 
 TEST(ScaleC, InPlace) {

@@ -534,6 +534,14 @@ inline std::int32_t toIntScalar(float x) { return _mm_cvtss_si32(_mm_set_ss(x));
 template <class T>
 inline Vec<T> allOnes() { return fromBits<T>(_mm_set1_epi32(-1)); }
 
+// ---- conversion family -------------------------------------------------------------------
+// Lanes where a < b does not hold: a >= b, or either is NaN.
+inline Vec<float> cmpNotLess(Vec<float> a, Vec<float> b) { return {_mm_cmpnlt_ps(a.v, b.v)}; }
+// Hint to bring the cache line holding p into every cache level.
+inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), _MM_HINT_T0); }
+// x in the low 32-bit lane, zeros above.
+inline Vec<std::uint32_t> fromLow32(std::uint32_t x) { return {_mm_cvtsi32_si128(static_cast<int>(x))}; }
+
 }  // namespace isa
 QVN_TARGET_END
 
