@@ -254,8 +254,10 @@ def case_text(e):
             args.append(f"f.roi<{p.ctype}>()")
         else:
             args.append(f"{p.ctype}{{}}")
-    gtext = ", ".join(f"{{Check::{k}, {{{', '.join(map(str, idx))}}}}}" for k, idx in groups)
-    return (f'{{"{e.name}", {{{gtext}}}, {len(steps)},\n'
+    if len(groups) > 6 or any(len(idx) > 8 for _, idx in groups):
+        raise TableError(f"{e.name}: more checks or pointers than the case record holds")
+    gtext = ", ".join(f"{{Check::{k}, {len(idx)}, {{{', '.join(map(str, idx))}}}}}" for k, idx in groups)
+    return (f'{{"{e.name}", {len(groups)}, {{{gtext}}}, {len(steps)},\n'
             f' [](const Faults& f) -> QvnStatus {{ return {e.name}({", ".join(args)}); }}}},\n')
 
 

@@ -6,7 +6,6 @@
 #define QVN_TESTS_FAULTS_H
 
 #include <cstdint>
-#include <vector>
 
 #include "qvnip.h"
 
@@ -38,15 +37,19 @@ struct Faults {
     }
 };
 
+// Plain records, so that a table of a thousand cases is constant data and
+// costs the compiler little.
 struct CheckGroup {
     Check kind;
-    std::vector<int> indices;  // pointers or steps the check covers
+    int count;        // pointers or steps the check covers
+    int indices[8];
 };
 
 struct ApiCase {
     const char* name;
-    std::vector<CheckGroup> order;  // the leading checks, in order
-    int steps;                      // step parameters of the call
+    int checks;             // the leading checks, in order
+    CheckGroup order[6];
+    int steps;              // step parameters of the call
     QvnStatus (*call)(const Faults&);
 };
 
