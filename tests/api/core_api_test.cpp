@@ -51,14 +51,6 @@ TEST(Malloc, StepIsRowRoundedUpTo64AndRowsAreWritable) {
         }
 }
 
-TEST(Malloc, OnePixelTakesOneCacheLine) {
-    int step = 0;
-    Qvn8u* p = qvniMalloc_8u_C1(1, 1, &step);
-    ASSERT_NE(p, nullptr);
-    EXPECT_EQ(step, 64);
-    qvniFree(p);
-}
-
 TEST(Malloc, RejectedSizesLeaveStepZero) {
     int step = 123;
     EXPECT_EQ(qvniMalloc_8u_C3(715827883, 1, &step), nullptr);  // row bytes exceed 2^31 - 1

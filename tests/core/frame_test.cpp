@@ -125,24 +125,5 @@ TEST(Spec, PlacedAtNext64ByteBoundaryAndFoundByIdentifier) {
     }
 }
 
-TEST(Checks, StatusesOfTheCommonOrder) {
-    const int x = 0;
-    EXPECT_EQ(check::ptrs(&x, &x), qvnOk);
-    EXPECT_EQ(check::ptrs(&x, static_cast<const int*>(nullptr)), qvnErrNullPointer);
-    EXPECT_EQ(check::roi(RoiL{0, 5}), qvnErrSize);
-    EXPECT_EQ(check::roi(RoiL{5, -1}), qvnErrSize);
-    EXPECT_EQ(check::steps(1, 0), qvnErrStep);
-    EXPECT_EQ(check::nonzeroSteps(-4, 3), qvnOk);
-    EXPECT_EQ(check::nonzeroSteps(4, 0), qvnErrStep);
-    EXPECT_EQ(check::rounding(3), qvnErrRounding);
-    EXPECT_EQ(check::rounding(-1), qvnErrRounding);
-    EXPECT_EQ(check::hint(2), qvnOk);
-    EXPECT_EQ(check::hint(3), qvnErrAlgorithm);
-    EXPECT_EQ(check::hint(1 << 16), qvnErrAlgorithm);
-    EXPECT_EQ(check::hint(1 << 24), qvnOk);
-    EXPECT_EQ(check::dataType(qvn16s), qvnOk);
-    EXPECT_EQ(check::dataType(2), qvnErrDataType);
-}
-
 }  // namespace
 }  // namespace qvn::QVN_TARGET

@@ -40,13 +40,6 @@ TEST(ArithMulScale, Exhaustive8uAnd16uEdges) {
     EXPECT_EQ(out, 0);
 }
 
-TEST(ArithMulScale, StepsBeforeSizes) {
-    Qvn8u v[4] = {};
-    EXPECT_EQ(qvniMulScale_8u_C1R(v, 0, v, 4, v, 4, {0, 1}), qvnErrStep);
-    EXPECT_EQ(qvniMulCScale_8u_C3R(v, 12, nullptr, v, 0, {0, 1}), qvnErrNullPointer);
-    EXPECT_EQ(qvniMulCScale_8u_C1R(v, 1, 3, v, 1, {1, 0}), qvnErrSize);
-}
-
 // The model: the double product narrowed to float, both rounded toward zero
 // for integer modes 0 and 2 (whose calls round toward zero throughout), then
 // limited and rounded by the C library in the mode's sense.

@@ -11,7 +11,7 @@
 #include <vector>
 
 #include "qvnip.h"
-#include "support/guarded_image.h"
+#include "support/sweep.h"
 
 namespace qvn::test {
 
@@ -86,54 +86,41 @@ struct SweepCase {
 template <class T, class Call, class Model>
 void sweep(const SweepCase& sc, int sf, Call call, Model model, QvnStatus wantStatus = qvnOk,
            const std::vector<int>& widths = {1, 2, 7, 16, 17, 33, 257}) {
-    for (int w : widths)
-        for (int h : {1, 2, 9}) {
-            const std::uint32_t seed = std::uint32_t(w * 977 + h * 31 + sf * 7 + sc.elems);
-            Layout lay{w, h, sc.elems, -1, (w + h) % 2 == 0, seed};
-            GuardedImage<T> s1(lay), s2({w, h, sc.elems, -1, false, seed + 1}), d({w, h, sc.elems, -1, h == 2, seed + 2});
-            fillMixed(s1, seed + 3);
-            fillMixed(s2, seed + 4);
-            T cst[4];
-            for (int c = 0; c < 4; ++c) {  // constant forms: no zero divisor (DivC refuses it)
-                cst[c] = s1.at(c % s1.rowElems(), 0);
-                if (cst[c] == T(0)) cst[c] = T(3);
-            }
-            if (sc.form == Form::InPlace)
-                for (std::int64_t y = 0; y < h; ++y)
-                    for (std::int64_t e = 0; e < d.rowElems(); ++e)
-                        if (!sc.alpha || e % 4 != 3) d.at(e, y) = s2.at(e, y);
-            d.snapshot();
-            std::vector<T> before;
-            for (std::int64_t y = 0; y < h; ++y)
-                for (std::int64_t e = 0; e < d.rowElems(); ++e) before.push_back(d.at(e, y));
-            const T* y1 = sc.constant ? cst : s1.data();
-            const T* x2 = sc.form == Form::InPlace ? d.data() : s2.data();
-            const QvnStatus st = sc.constant
-                ? call(x2, int(s2.step()), y1, 0, d.data(), int(d.step()), QvnRoiSize{w, h}, sf)
-                : call(y1, int(s1.step()), x2, int(s2.step()), d.data(), int(d.step()), QvnRoiSize{w, h}, sf);
-            SCOPED_TRACE(testing::Message() << "width " << w << " height " << h << " sf " << sf << " seed " << seed);
-            bool sawZeroDivisor = false;
-            for (std::int64_t y = 0; y < h; ++y)
-                for (std::int64_t e = 0; e < d.rowElems(); ++e) {
-                    const T old = before[std::size_t(y * d.rowElems() + e)];
-                    const bool keep = sc.alpha && e % 4 == 3;
-                    const T xv = sc.form == Form::InPlace ? old : s2.at(e, y);
-                    const T yv = sc.constant ? cst[e % sc.elems] : s1.at(e, y);
-                    if (!keep && yv == T(0)) sawZeroDivisor = true;
-                    const T want = keep ? old : model(xv, yv);
-                    const T got = d.at(e, y);
-                    if (std::memcmp(&got, &want, sizeof(T)) != 0) {
-                        ADD_FAILURE() << "(" << e / sc.elems << ", " << y << ", " << e % sc.elems << ") got "
-                                      << +got << " want " << +want << " from x " << +xv << " y " << +yv;
-                        return;
-                    }
-                }
-            const QvnStatus want = wantStatus == qvnWarnDivByZero && !sawZeroDivisor ? qvnOk : wantStatus;
-            EXPECT_EQ(st, want);
-            d.expectUntouchedOutsideRoi();
-            s1.expectUnchanged();
-            if (sc.form != Form::InPlace) s2.expectUnchanged();
+    forEachShape(widths, {1, 2, 9}, [&](int w, int h, int, bool page, std::uint32_t shapeSeed) {
+        const std::uint32_t seed = shapeSeed * 977 + std::uint32_t(sf * 7 + sc.elems);
+        GuardedImage<T> s1({w, h, sc.elems, -1, page, seed}), s2({w, h, sc.elems, -1, false, seed + 1}),
+            d({w, h, sc.elems, -1, h == 2, seed + 2});
+        fillMixed(s1, seed + 3);
+        fillMixed(s2, seed + 4);
+        T cst[4];
+        for (int c = 0; c < 4; ++c) {  // constant forms: no zero divisor (DivC refuses it)
+            cst[c] = s1.at(c % s1.rowElems(), 0);
+            if (cst[c] == T(0)) cst[c] = T(3);
         }
+        if (sc.form == Form::InPlace)
+            for (std::int64_t y = 0; y < h; ++y)
+                for (std::int64_t e = 0; e < d.rowElems(); ++e)
+                    if (!sc.alpha || e % 4 != 3) d.at(e, y) = s2.at(e, y);
+        d.snapshot();
+        const std::vector<T> before = roiContents(d);
+        const T* y1 = sc.constant ? cst : s1.data();
+        const T* x2 = sc.form == Form::InPlace ? d.data() : s2.data();
+        const QvnStatus st = sc.constant
+            ? call(x2, int(s2.step()), y1, 0, d.data(), int(d.step()), QvnRoiSize{w, h}, sf)
+            : call(y1, int(s1.step()), x2, int(s2.step()), d.data(), int(d.step()), QvnRoiSize{w, h}, sf);
+        bool sawZeroDivisor = false;
+        expectRoi(d, sc.elems, [&](std::int64_t e, std::int64_t y) {
+            const T old = before[std::size_t(y * d.rowElems() + e)];
+            if (sc.alpha && e % 4 == 3) return old;
+            const T yv = sc.constant ? cst[e % sc.elems] : s1.at(e, y);
+            sawZeroDivisor |= yv == T(0);
+            return T(model(sc.form == Form::InPlace ? old : s2.at(e, y), yv));
+        }, "sf " + std::to_string(sf) + " seed " + std::to_string(seed));
+        EXPECT_EQ(st, wantStatus == qvnWarnDivByZero && !sawZeroDivisor ? qvnOk : wantStatus);
+        d.expectUntouchedOutsideRoi();
+        s1.expectUnchanged();
+        if (sc.form != Form::InPlace) s2.expectUnchanged();
+    }, {-1});
 }
 
 }  // namespace qvn::test

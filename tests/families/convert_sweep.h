@@ -15,7 +15,7 @@
 #include <vector>
 
 #include "qvnip.h"
-#include "support/guarded_image.h"
+#include "support/sweep.h"
 
 namespace qvn::test {
 
@@ -81,18 +81,6 @@ S randomValue(std::mt19937& rng) {
     }
 }
 
-template <class T>
-bool sameValue(T a, T b) {
-    if constexpr (std::is_floating_point_v<T>) return (std::isnan(a) && std::isnan(b)) || a == b;
-    else return a == b;
-}
-
-template <class T>
-auto printable(T v) {
-    if constexpr (sizeof(T) == 1) return int(v);
-    else return v;
-}
-
 // Fills the ROI of src: boundary values first, then consecutive values from
 // a random start (integer sources of up to 16 bits: whole ranges over large
 // images), random values otherwise.
@@ -123,10 +111,7 @@ void checkOne(std::int64_t w, std::int64_t h, int elems, bool keepAlpha, int gap
     GuardedImage<S> src({w, h, elems, gap, false, seed});
     fillSource(src, seed);
     GuardedImage<D> dst({w, h, elems, gap, endAtPage, seed + 1});
-    std::vector<D> before;
-    for (std::int64_t y = 0; y < h; ++y)
-        for (std::int64_t e = 0; e < dst.rowElems(); ++e) before.push_back(dst.at(e, y));
-
+    const std::vector<D> before = roiContents(dst);
     std::fesetround(FE_UPWARD);
     const QvnStatus status = call(src.data(), int(src.step()), dst.data(), int(dst.step()),
                                   QvnRoiSize{int(w), int(h)});
@@ -134,19 +119,9 @@ void checkOne(std::int64_t w, std::int64_t h, int elems, bool keepAlpha, int gap
     std::fesetround(FE_TONEAREST);
     ASSERT_EQ(status, qvnOk) << w << "x" << h;
     EXPECT_EQ(after, FE_UPWARD) << "the caller's rounding control was not restored";
-    for (std::int64_t y = 0; y < h; ++y)
-        for (std::int64_t e = 0; e < dst.rowElems(); ++e) {
-            const bool alpha = keepAlpha && e % 4 == 3;
-            const S s = src.at(e, y);
-            const D want = alpha ? before[std::size_t(y * dst.rowElems() + e)] : ref(s);
-            const D got = dst.at(e, y);
-            if (!sameValue(got, want)) {
-                ADD_FAILURE() << w << "x" << h << " seed " << seed << ": (" << e / elems << ", " << y << ", "
-                              << e % elems << ") from " << printable(s) << " got " << printable(got) << " want "
-                              << printable(want);
-                return;
-            }
-        }
+    expectRoi(dst, elems, [&](std::int64_t e, std::int64_t y) {
+        return keepAlpha && e % 4 == 3 ? before[std::size_t(y * dst.rowElems() + e)] : D(ref(src.at(e, y)));
+    }, "seed " + std::to_string(seed), true);
     src.expectUnchanged();
     dst.expectUntouchedOutsideRoi();
 }
@@ -155,13 +130,9 @@ void checkOne(std::int64_t w, std::int64_t h, int elems, bool keepAlpha, int gap
 // contiguous rows, destinations ending at an inaccessible page.
 template <class S, class D, class Call, class Ref>
 void sweep(int elems, bool keepAlpha, const Call& call, const Ref& ref) {
-    std::uint32_t seed = 1;
-    for (int w : {1, 2, 3, 7, 16, 17, 33, 65})
-        for (int h : {1, 3})
-            for (int gap : {-1, 0}) {
-                checkOne<S, D>(w, h, elems, keepAlpha, gap, w % 2 == 1, seed++, call, ref);
-                if (testing::Test::HasFailure()) return;
-            }
+    forEachShape({1, 2, 3, 7, 16, 17, 33, 65}, {1, 3}, [&](int w, int h, int gap, bool page, std::uint32_t seed) {
+        checkOne<S, D>(w, h, elems, keepAlpha, gap, page, seed, call, ref);
+    });
 }
 
 // Every value of an integer source of up to 16 bits, once.

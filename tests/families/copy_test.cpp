@@ -1,13 +1,14 @@
-// qvniCopy, qvniCopyManaged, qvniDup and the masked and one-channel qvniSet
-// forms against the channel-map model, on guarded images.
+// qvniCopy, qvniCopyManaged, qvniDup and qvniSet against the channel-map
+// model, on guarded images.
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <memory>
 #include <vector>
 
 #include "qvnip.h"
 #include "support/cache_double.h"
-#include "support/move_sweep.h"
+#include "support/sweep.h"
 
 namespace qvn::test {
 namespace {
@@ -56,8 +57,15 @@ TEST(Copy, MaskedFormsWriteOnlyWhereTheMaskIsSet) {
 #undef X
 }
 
-TEST(Set, MaskedAndOneChannelForms) {
+TEST(Set, EveryForm) {
 #define X(t, T)                                                                                        \
+    sweepMove<T>({"Set_" #t "_C1R", map(1, 1, {kFill}, {11})}, QVN_FN(T, qvniSet_##t##_C1R(T(11), d, int(ds), r))); \
+    sweepMove<T>({"Set_" #t "_C3R", map(3, 3, {kFill, kFill, kFill}, {11, 3, 250})},                  \
+                 QVN_FN(T, [&] { const T v[3] = {11, 3, 250}; return qvniSet_##t##_C3R(v, d, int(ds), r); }())); \
+    sweepMove<T>({"Set_" #t "_C4R", map(4, 4, {kFill, kFill, kFill, kFill}, {11, 3, 250, 7})},        \
+                 QVN_FN(T, [&] { const T v[4] = {11, 3, 250, 7}; return qvniSet_##t##_C4R(v, d, int(ds), r); }())); \
+    sweepMove<T>({"Set_" #t "_AC4R", map(4, 4, {kFill, kFill, kFill, kKeep}, {11, 3, 250})},          \
+                 QVN_FN(T, [&] { const T v[3] = {11, 3, 250}; return qvniSet_##t##_AC4R(v, d, int(ds), r); }())); \
     sweepMove<T>({"Set_" #t "_C1MR", map(1, 1, {kFill}, {7}), 0, 0, true},                            \
                  QVN_FN(T, qvniSet_##t##_C1MR(T(7), d, int(ds), r, m, int(ms))));                      \
     sweepMove<T>({"Set_" #t "_C3MR", map(3, 3, {kFill, kFill, kFill}, {1, 100, 3}), 0, 0, true},       \
@@ -112,41 +120,30 @@ TEST(Copy, OneChannelFormsAndLayoutChanges) {
 template <class T, int K>
 void sweepPlanar(const char* name, QvnStatus (*toPlanes)(const T*, int, T* const*, int, QvnRoiSize),
                  QvnStatus (*fromPlanes)(const T* const*, int, T*, int, QvnRoiSize)) {
-    std::uint32_t seed = 100;
-    for (int w : sweepWidths())
-        for (int h : {1, 3})
-            for (int gap : {0, 5}) {
-                ++seed;
-                GuardedImage<T> pix({w, h, K, gap * K, bool(seed % 2), seed});
-                std::vector<std::unique_ptr<GuardedImage<T>>> planes;
-                T* p[K];
-                for (int c = 0; c < K; ++c) {
-                    planes.push_back(std::make_unique<GuardedImage<T>>(Layout{w, h, 1, gap, c % 2 == 0, seed + c}));
-                    p[c] = planes.back()->data();
-                }
-                ASSERT_EQ(toPlanes(pix.data(), int(pix.step()), p, int(planes[0]->step()), {w, h}), qvnOk);
-                for (int c = 0; c < K; ++c) {
-                    for (std::int64_t y = 0; y < h; ++y)
-                        for (std::int64_t x = 0; x < w; ++x)
-                            ASSERT_TRUE(sameBits(planes[c]->at(x, y), pix.at(x * K + c, y)))
-                                << name << " to planes, width " << w << " height " << h << " at (" << x << ", "
-                                << y << ", " << c << ")";
-                    planes[c]->expectUntouchedOutsideRoi();
-                    // new contents for the way back
-                    for (std::int64_t y = 0; y < h; ++y)
-                        for (std::int64_t x = 0; x < w; ++x) planes[c]->at(x, y) = T((x * 7 + y * 3 + c) & 0x7F);
-                }
-                const T* cp[K];
-                for (int c = 0; c < K; ++c) cp[c] = p[c];
-                ASSERT_EQ(fromPlanes(cp, int(planes[0]->step()), pix.data(), int(pix.step()), {w, h}), qvnOk);
-                for (std::int64_t y = 0; y < h; ++y)
-                    for (std::int64_t x = 0; x < w; ++x)
-                        for (int c = 0; c < K; ++c)
-                            ASSERT_TRUE(sameBits(pix.at(x * K + c, y), T((x * 7 + y * 3 + c) & 0x7F)))
-                                << name << " from planes, width " << w << " height " << h << " at (" << x << ", "
-                                << y << ", " << c << ")";
-                pix.expectUntouchedOutsideRoi();
-            }
+    forEachShape(sweepWidths(), {1, 3}, [&](int w, int h, int gap, bool page, std::uint32_t seed) {
+        GuardedImage<T> pix({w, h, K, gap * K, page, seed});
+        std::vector<std::unique_ptr<GuardedImage<T>>> planes;
+        T* p[K];
+        for (int c = 0; c < K; ++c) {
+            planes.push_back(std::make_unique<GuardedImage<T>>(Layout{w, h, 1, gap, c % 2 == 0, seed + c}));
+            p[c] = planes.back()->data();
+        }
+        const int ps = int(planes[0]->step());
+        ASSERT_EQ(toPlanes(pix.data(), int(pix.step()), p, ps, {w, h}), qvnOk);
+        for (int c = 0; c < K; ++c) {
+            expectRoi(*planes[c], 1, [&](std::int64_t x, std::int64_t y) { return pix.at(x * K + c, y); },
+                      std::string(name) + " to plane " + std::to_string(c));
+            planes[c]->expectUntouchedOutsideRoi();
+        }
+        const auto fresh = [](std::int64_t e, std::int64_t y) { return T((e * 7 + y * 3) & 0x7F); };
+        for (std::int64_t y = 0; y < h; ++y)
+            for (std::int64_t e = 0; e < K * w; ++e) planes[e % K]->at(e / K, y) = fresh(e, y);
+        const T* cp[K];
+        std::copy(p, p + K, cp);
+        ASSERT_EQ(fromPlanes(cp, ps, pix.data(), int(pix.step()), {w, h}), qvnOk);
+        expectRoi(pix, K, fresh, std::string(name) + " from planes");
+        pix.expectUntouchedOutsideRoi();
+    }, {0, 5});
 }
 
 TEST(Copy, PlanarBothWays) {
@@ -203,7 +200,32 @@ TEST(Copy, AllZeroMaskAndErrorsLeaveTheDestinationUnchanged) {
     EXPECT_EQ(qvniCopy_32f_C4C1R(src.data(), ss, dst.data(), ds, {-1, 3}), qvnErrSize);
     Qvn32f* planes[4] = {dst.data(), dst.data(), nullptr, dst.data()};
     EXPECT_EQ(qvniCopy_32f_C4P4R(src.data(), ss, planes, ds, {0, 3}), qvnErrNullPointer);
+    EXPECT_EQ(qvniSet_32f_C4R(nullptr, dst.data(), ds, {37, 3}), qvnErrNullPointer);
+    EXPECT_EQ(qvniSet_32f_C4R(v, dst.data(), ds, {0, 3}), qvnErrSize);
     dst.expectUnchanged();
+}
+
+TEST(Set, CacheSizeIsAskedOnlyPast512KiB) {
+    resetCacheDouble();
+    std::vector<Qvn8u> buf(524289 + 64);
+    ASSERT_EQ(qvniSet_8u_C1R(1, buf.data(), 1024, {1024, 512}), qvnOk);  // 524,288 bytes
+    EXPECT_EQ(cacheDouble().calls, 0);
+    ASSERT_EQ(qvniSet_8u_C1R(2, buf.data(), 524289, {524289, 1}), qvnOk);
+    EXPECT_EQ(cacheDouble().calls, 1);
+    // AC4 never streams (it reads alpha back), so it never asks.
+    ASSERT_EQ(qvniSet_8u_AC4R(buf.data(), buf.data(), 4 * 131073, {131073, 1}), qvnOk);
+    EXPECT_EQ(cacheDouble().calls, 1);
+    // Past the threshold with a small cache every fill streams, to the same result.
+    cacheDouble().sizeBytes = 4096;
+    const Qvn32f px[3] = {1.5f, -2.0f, 3.25f};
+    for (bool endAtPage : {false, true}) {
+        GuardedImage<Qvn32f> img({21847, 2, 3, 1, endAtPage, 5});  // 524,328 bytes
+        ASSERT_EQ(qvniSet_32f_C3R(px, img.data(), int(img.step()), {21847, 2}), qvnOk);
+        expectRoi(img, 3, [&](std::int64_t e, std::int64_t) { return px[e % 3]; }, "streaming Set_32f_C3R");
+        img.expectUntouchedOutsideRoi();
+    }
+    EXPECT_EQ(cacheDouble().calls, 3);
+    resetCacheDouble();
 }
 
 }  // namespace
