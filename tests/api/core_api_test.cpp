@@ -37,55 +37,32 @@ TEST(Malloc, StepIsRowRoundedUpTo64AndRowsAreWritable) {
         }
 }
 
-TEST(Malloc, RejectedSizesLeaveStepZero) {
-    int step = 123;
-    EXPECT_EQ(qvniMalloc_8u_C3(715827883, 1, &step), nullptr);  // row bytes exceed 2^31 - 1
-    EXPECT_EQ(step, 0);
-    for (int w : {0, -1}) {
-        step = 7;
-        EXPECT_EQ(qvniMalloc_32f_C1(w, 4, &step), nullptr);
-        EXPECT_EQ(step, 0);
-        step = 7;
-        EXPECT_EQ(qvniMalloc_32f_C1(4, w, &step), nullptr);
-        EXPECT_EQ(step, 0);
+// Refused allocations: the step is 0 when the sizes or the row are invalid,
+// and the computed step when only the total is too large.
+TEST(Malloc, RefusedSizesAndTheirSteps) {
+    using Alloc = void* (*)(QvnSizeL*);
+    const struct { const char* what; Alloc alloc; QvnSizeL step; } cases[] = {
+        {"8u C3 row bytes above 2^31 - 1", [](QvnSizeL* s) -> void* { int i = 9; void* p = qvniMalloc_8u_C3(715827883, 1, &i); *s = i; return p; }, 0},
+        {"8u C3 row rounding overflows", [](QvnSizeL* s) -> void* { int i = 9; void* p = qvniMalloc_8u_C3(715827882, 2, &i); *s = i; return p; }, 0},
+        {"zero width", [](QvnSizeL* s) -> void* { int i = 9; void* p = qvniMalloc_32f_C1(0, 4, &i); *s = i; return p; }, 0},
+        {"negative height", [](QvnSizeL* s) -> void* { int i = 9; void* p = qvniMalloc_32f_C1(4, -1, &i); *s = i; return p; }, 0},
+        {"total of 2^31 bytes", [](QvnSizeL* s) -> void* { int i = 9; void* p = qvniMalloc_8u_C1(65536, 32768, &i); *s = i; return p; }, 65536},
+        {"_L row bytes overflow", [](QvnSizeL* s) -> void* { return qvniMalloc_32fc_C4_L(QvnSizeL(1) << 60, 1, s); }, 0},
+        {"_L total overflows", [](QvnSizeL* s) -> void* { return qvniMalloc_8u_C1_L(QvnSizeL(1) << 40, QvnSizeL(1) << 40, s); }, QvnSizeL(1) << 40},
+        {"_L zero width", [](QvnSizeL* s) -> void* { return qvniMalloc_16u_C1_L(0, 1, s); }, 0},
+    };
+    for (const auto& c : cases) {
+        QvnSizeL step = 9;
+        EXPECT_EQ(c.alloc(&step), nullptr) << c.what;
+        EXPECT_EQ(step, c.step) << c.what;
     }
     EXPECT_EQ(qvniMalloc_8u_C1(1, 1, nullptr), nullptr);
-    // The largest 8u C3 row whose rounding still fits: 715,827,861 pixels.
-    step = 0;
-    EXPECT_EQ(qvniMalloc_8u_C3(715827882, 2, &step), nullptr);  // rounding up overflows
-    EXPECT_EQ(step, 0);
-}
-
-TEST(Malloc, TotalBeyond32BitsKeepsTheStep) {
-    int step = 0;
-    EXPECT_EQ(qvniMalloc_8u_C1(65536, 32768, &step), nullptr);  // exactly 2^31 bytes
-    EXPECT_EQ(step, 65536);
-}
-
-TEST(MallocL, SixtyFourBitArithmetic) {
-    QvnSizeL step = -1;
-    Qvn8u* p = qvniMalloc_8u_C1_L(1, 1, &step);
-    ASSERT_NE(p, nullptr);
-    EXPECT_EQ(step, 64);
-    qvniFree(p);
-
-    // A 2^31-byte row is fine for the _L form; its step is still computed even
-    // when the allocation itself is refused.
-    step = 0;
-    Qvn8u* big = qvniMalloc_8u_C3_L(715827883, 1, &step);
-    EXPECT_EQ(step, 2147483712);
-    qvniFree(big);
-
-    step = 9;
-    EXPECT_EQ(qvniMalloc_32fc_C4_L(QvnSizeL(1) << 60, 1, &step), nullptr);  // row bytes overflow
-    EXPECT_EQ(step, 0);
-    step = 9;
-    EXPECT_EQ(qvniMalloc_8u_C1_L(QvnSizeL(1) << 40, QvnSizeL(1) << 40, &step), nullptr);  // total overflows
-    EXPECT_EQ(step, QvnSizeL(1) << 40);
-    step = 9;
-    EXPECT_EQ(qvniMalloc_16u_C1_L(0, 1, &step), nullptr);
-    EXPECT_EQ(step, 0);
     EXPECT_EQ(qvniMalloc_16u_C1_L(1, 1, nullptr), nullptr);
+    // A 2^31-byte row is fine for the _L form: its step is computed even when
+    // the allocation itself is refused.
+    QvnSizeL step = 0;
+    qvniFree(qvniMalloc_8u_C3_L(715827883, 1, &step));
+    EXPECT_EQ(step, 2147483712);
 }
 
 TEST(Core, MallocIsAlignedAndRejectsNonPositiveSizes) {

@@ -38,18 +38,6 @@ std::vector<Call> walk(RoiL roi, std::int64_t srcStep, std::int64_t dstStep, int
     return calls;
 }
 
-TEST(ForEachRow, VisitsEveryRowAtItsStep) {
-    const auto calls = walk({5, 11}, 7, 40, 1, 1);
-    ASSERT_EQ(calls.size(), 11u);
-    for (std::size_t y = 0; y < calls.size(); ++y) {
-        EXPECT_EQ(calls[y].width, 5);
-        EXPECT_EQ(reinterpret_cast<const char*>(calls[y].src) - reinterpret_cast<const char*>(calls[0].src),
-                  std::int64_t(y) * 7);
-        EXPECT_EQ(reinterpret_cast<char*>(calls[y].dst) - reinterpret_cast<char*>(calls[0].dst),
-                  std::int64_t(y) * 40);
-    }
-}
-
 TEST(ForEachRow, MergesRowsOnlyWhenEveryImageIsContiguous) {
     // One-channel 8u source, four-element 16u destination: 5 and 40 bytes a row.
     EXPECT_EQ(walk({5, 9}, 5, 40, 1, 4).size(), 1u);

@@ -71,9 +71,7 @@ TEST(ConvertSfs, InPlace32fTo32u) {
             for (int w : {1, 5, 16, 37}) {
                 GuardedImage<Qvn32f> img({w, 3, 1, -1, w == 37, std::uint32_t(w + sf)});
                 fillSource(img, std::uint32_t(w * 3 + mode));
-                std::vector<Qvn32f> src;
-                for (int y = 0; y < 3; ++y)
-                    for (int x = 0; x < w; ++x) src.push_back(img.at(x, y));
+                const std::vector<Qvn32f> src = roiContents(img);
                 ASSERT_EQ(qvniConvert_32f32u_C1IRSfs(img.data(), int(img.step()), {w, 3}, mode, sf), qvnOk);
                 for (int y = 0; y < 3; ++y)
                     for (int x = 0; x < w; ++x) {
