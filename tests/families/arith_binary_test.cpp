@@ -14,12 +14,13 @@ namespace {
 // and far outside them.
 const int kFactors[] = {0, 1, 2, 7, 8, 9, 10, 15, 16, 17, 18, 30, 31, 33, 100, -1, -7, -8, -15, -16, -17, -1000};
 
-template <class T>
-auto addModel(int sf) { return [sf](T x, T y) { return ref::scaled<T>(std::int64_t(x) + y, sf); }; }
-template <class T>
-auto subModel(int sf) { return [sf](T x, T y) { return ref::scaled<T>(std::int64_t(x) - y, sf); }; }
-template <class T>
-auto mulModel(int sf) { return [sf](T x, T y) { return ref::scaled<T>(std::int64_t(x) * y, sf); }; }
+// The exact result x op y, scaled and saturated.
+#define QVN_MODEL(T, op) [sf](Qvn##T x, Qvn##T y) { return ref::scaled<Qvn##T>(std::int64_t(x) op y, sf); }
+// Every integer operation and type, for M(OP, T, model, sf) sweeps.
+#define QVN_INTEGER_OPS(M)                                                                               \
+    M(Add, 8u, QVN_MODEL(8u, +), sf); M(Sub, 8u, QVN_MODEL(8u, -), sf); M(Mul, 8u, QVN_MODEL(8u, *), sf);       \
+    M(Add, 16u, QVN_MODEL(16u, +), sf); M(Sub, 16u, QVN_MODEL(16u, -), sf); M(Mul, 16u, QVN_MODEL(16u, *), sf); \
+    M(Add, 16s, QVN_MODEL(16s, +), sf); M(Sub, 16s, QVN_MODEL(16s, -), sf); M(Mul, 16s, QVN_MODEL(16s, *), sf);
 
 // Every layout and form of one operation and type, at one scale factor.
 #define QVN_SWEEP_SFS(OP, T, model, sf)                                                                         \
@@ -36,15 +37,7 @@ TEST(ArithBinary, IntegerFormsFollowTheScaleRuleAtEveryPath) {
     for (int sf : kFactors) {
         // every form at one factor of each path, C1 and AC4 at all of them
         const bool full = sf == 0 || sf == 1 || sf == 9 || sf == 17 || sf == -8 || sf == -16;
-        QVN_SWEEP_SFS(Add, 8u, addModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_SFS(Sub, 8u, subModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_SFS(Mul, 8u, mulModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_SFS(Add, 16u, addModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_SFS(Sub, 16u, subModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_SFS(Mul, 16u, mulModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_SFS(Add, 16s, addModel<Qvn16s>(sf), sf);
-        QVN_SWEEP_SFS(Sub, 16s, subModel<Qvn16s>(sf), sf);
-        QVN_SWEEP_SFS(Mul, 16s, mulModel<Qvn16s>(sf), sf);
+        QVN_INTEGER_OPS(QVN_SWEEP_SFS)
         if (HasFailure()) return;
     }
 }
@@ -62,15 +55,7 @@ TEST(ArithBinary, IntegerFormsFollowTheScaleRuleAtEveryPath) {
 
 TEST(ArithBinary, ConstantFormsFollowTheScaleRule) {
     for (int sf : {0, 1, 9, 10, 17, 31, -1, -8, -40}) {
-        QVN_SWEEP_CONST(Add, 8u, addModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_CONST(Sub, 8u, subModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_CONST(Mul, 8u, mulModel<Qvn8u>(sf), sf);
-        QVN_SWEEP_CONST(Add, 16u, addModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_CONST(Sub, 16u, subModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_CONST(Mul, 16u, mulModel<Qvn16u>(sf), sf);
-        QVN_SWEEP_CONST(Add, 16s, addModel<Qvn16s>(sf), sf);
-        QVN_SWEEP_CONST(Sub, 16s, subModel<Qvn16s>(sf), sf);
-        QVN_SWEEP_CONST(Mul, 16s, mulModel<Qvn16s>(sf), sf);
+        QVN_INTEGER_OPS(QVN_SWEEP_CONST)
         if (HasFailure()) return;
     }
 }
