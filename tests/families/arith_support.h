@@ -20,37 +20,20 @@ namespace qvn::test {
 // _L form. Call gets (src1, step1, src2, step2, dst, dstStep, roi, sf).
 enum class Form { Plain, InPlace, Long };
 
-#define QVN_ARITH_CALLS(fn, ...)                                                                                 \
-    [](const auto* a, int as, const auto* b, int bs, auto* d, int ds, QvnRoiSize r, int sf) {                    \
-        (void)sf;                                                                                                \
-        return fn(a, as, b, bs, d, ds, r __VA_ARGS__);                                                           \
+#define QVN_CALLS(...)                                                                                 \
+    [](const auto* a, int as, const auto* b, int bs, auto* d, int ds, QvnRoiSize r, int sf) {              \
+        (void)a, (void)as, (void)b, (void)bs, (void)sf;                                                    \
+        return __VA_ARGS__;                                                                                \
     }
-#define QVN_ARITH_CALLS_I(fn, ...)                                                                               \
-    [](const auto* a, int as, const auto*, int, auto* d, int ds, QvnRoiSize r, int sf) {                         \
-        (void)sf;                                                                                                \
-        return fn(a, as, d, ds, r __VA_ARGS__);                                                                  \
-    }
-#define QVN_ARITH_CALLS_L(fn, ...)                                                                               \
-    [](const auto* a, int as, const auto* b, int bs, auto* d, int ds, QvnRoiSize r, int sf) {                    \
-        (void)sf;                                                                                                \
-        return fn(a, QvnSizeL(as), b, QvnSizeL(bs), d, QvnSizeL(ds), QvnRoiSizeL{r.width, r.height} __VA_ARGS__); \
-    }
+#define QVN_ARITH_CALLS(fn, ...) QVN_CALLS(fn(a, as, b, bs, d, ds, r __VA_ARGS__))
+#define QVN_ARITH_CALLS_I(fn, ...) QVN_CALLS(fn(a, as, d, ds, r __VA_ARGS__))
+#define QVN_ARITH_CALLS_L(fn, ...) \
+    QVN_CALLS(fn(a, QvnSizeL(as), b, QvnSizeL(bs), d, QvnSizeL(ds), QvnRoiSizeL{r.width, r.height} __VA_ARGS__))
 // Constant forms: b is the constant array (C1 passes its first value).
-#define QVN_CONST_CALLS(fn, val, ...)                                                                            \
-    [](const auto* a, int as, const auto* b, int, auto* d, int ds, QvnRoiSize r, int sf) {                       \
-        (void)sf;                                                                                                \
-        return fn(a, as, val, d, ds, r __VA_ARGS__);                                                             \
-    }
-#define QVN_CONST_CALLS_I(fn, val, ...)                                                                          \
-    [](const auto*, int, const auto* b, int, auto* d, int ds, QvnRoiSize r, int sf) {                            \
-        (void)sf;                                                                                                \
-        return fn(val, d, ds, r __VA_ARGS__);                                                                    \
-    }
-#define QVN_CONST_CALLS_L(fn, val, ...)                                                                          \
-    [](const auto* a, int as, const auto* b, int, auto* d, int ds, QvnRoiSize r, int sf) {                       \
-        (void)sf;                                                                                                \
-        return fn(a, QvnSizeL(as), val, d, QvnSizeL(ds), QvnRoiSizeL{r.width, r.height} __VA_ARGS__);            \
-    }
+#define QVN_CONST_CALLS(fn, val, ...) QVN_CALLS(fn(a, as, val, d, ds, r __VA_ARGS__))
+#define QVN_CONST_CALLS_I(fn, val, ...) QVN_CALLS(fn(val, d, ds, r __VA_ARGS__))
+#define QVN_CONST_CALLS_L(fn, val, ...) \
+    QVN_CALLS(fn(a, QvnSizeL(as), val, d, QvnSizeL(ds), QvnRoiSizeL{r.width, r.height} __VA_ARGS__))
 
 // Random values with the extremes of T, 0 and 1 mixed in often, so that
 // saturation, zero divisors and ties are all met.
