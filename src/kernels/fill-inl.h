@@ -36,7 +36,7 @@ inline void fillRow(T* d, std::int64_t n, const T* px) {
         alignas(16) T lane[kLanes], mask[kLanes];
         for (std::int64_t e = 0; e < kLanes; ++e) {
             const std::int64_t idx = (i + k * kLanes + e) % K;
-            lane[e] = px[idx];
+            lane[e] = Keep && idx == K - 1 ? T() : px[idx];  // an AC4 value has three elements
             // all-ones bytes where the destination element must be kept
             unsigned char* m = reinterpret_cast<unsigned char*>(&mask[e]);
             for (std::size_t b = 0; b < sizeof(T); ++b) m[b] = (Keep && idx == K - 1) ? 0xFF : 0;
