@@ -80,44 +80,35 @@ TEST(ArithDiv, WorkedExamples) {
 // within the refined reciprocal's error of true division.
 TEST(ArithDiv, FloatDivision) {
     const float inf = std::numeric_limits<float>::infinity();
+    const std::uint32_t nanBits = 0x7FC00000u;
+    float nan;
+    std::memcpy(&nan, &nanBits, 4);
     for (bool alpha : {false, true})
-        for (int w : {1, 3, 9, 16, 33, 131}) {
+        forEachShape({1, 3, 9, 16, 33, 131}, {3}, [&](int w, int h, int gap, bool page, std::uint32_t seed) {
             const int elems = alpha ? 4 : 1;
-            GuardedImage<float> s1({w, 3, elems, -1, w % 2 == 1, std::uint32_t(w)}), s2({w, 3, elems, -1, false, 7}),
-                d({w, 3, elems, -1, false, 8});
-            std::mt19937 rng{std::uint32_t(w)};
-            for (std::int64_t y = 0; y < 3; ++y)
+            GuardedImage<float> s1({w, h, elems, gap, page, seed}), s2({w, h, elems, gap, false, seed + 1}),
+                d({w, h, elems, gap, !page, seed + 2});
+            std::mt19937 rng{seed};
+            for (std::int64_t y = 0; y < h; ++y)
                 for (std::int64_t e = 0; e < s1.rowElems(); ++e) {
                     s1.at(e, y) = rng() % 16 == 0 ? 0.0f : float(int(rng() % 20001) - 10000) / 7.0f;
                     s2.at(e, y) = rng() % 8 == 0 ? 0.0f : float(int(rng() % 20001) - 10000) / 3.0f;
                 }
-            std::vector<float> before;
-            for (std::int64_t y = 0; y < 3; ++y)
-                for (std::int64_t e = 0; e < d.rowElems(); ++e) before.push_back(d.at(e, y));
+            const std::vector<float> before = roiContents(d);
             const auto call = alpha ? qvniDiv_32f_AC4R : qvniDiv_32f_C1R;
-            const QvnStatus st = call(s1.data(), int(s1.step()), s2.data(), int(s2.step()), d.data(), int(d.step()), {w, 3});
+            const QvnStatus st = call(s1.data(), int(s1.step()), s2.data(), int(s2.step()), d.data(), int(d.step()), {w, h});
             bool zero = false;
-            for (std::int64_t y = 0; y < 3; ++y)
-                for (std::int64_t e = 0; e < s1.rowElems(); ++e) {
-                    const float x = s2.at(e, y), v = s1.at(e, y), got = d.at(e, y);
-                    if (alpha && e % 4 == 3) {
-                        ASSERT_EQ(std::memcmp(&got, &before[std::size_t(y * d.rowElems() + e)], 4), 0) << "alpha";
-                        continue;
-                    }
-                    zero |= v == 0.0f;
-                    if (v != 0.0f) {
-                        ASSERT_LE(std::fabs(got - x / v), std::fabs(x / v) * 5e-7f) << x << " / " << v << " width " << w;
-                    } else if (x != 0.0f) {
-                        ASSERT_EQ(got, x > 0 ? inf : -inf);
-                    } else {
-                        std::uint32_t bits;
-                        std::memcpy(&bits, &got, 4);
-                        ASSERT_EQ(bits, 0x7FC00000u);
-                    }
-                }
-            EXPECT_EQ(st, zero ? qvnWarnDivByZero : qvnOk) << "width " << w;
+            expectRoi(d, elems, [&](std::int64_t e, std::int64_t y) {
+                const float x = s2.at(e, y), v = s1.at(e, y), got = d.at(e, y);
+                if (alpha && e % 4 == 3) return before[std::size_t(y * d.rowElems() + e)];
+                zero |= v == 0.0f;
+                if (v == 0.0f) return x == 0.0f ? nan : x > 0 ? inf : -inf;
+                // other quotients: within the reciprocal's error of true division
+                return std::fabs(got - x / v) <= std::fabs(x / v) * 5e-7f ? got : x / v;
+            }, "Div_32f");
+            EXPECT_EQ(st, zero ? qvnWarnDivByZero : qvnOk);
             d.expectUntouchedOutsideRoi();
-        }
+        }, {-1});
 }
 
 TEST(ArithDiv, FloatGroupWithZeroDivisorIsExact) {
