@@ -14,56 +14,49 @@ namespace {
 // significant bit) of byte 0.
 bool bitAt(const Qvn8u* row, int offset, int x) { return (row[(offset + x) / 8] >> (7 - (offset + x) % 8)) & 1; }
 
+const std::vector<int> kWidths = {1, 2, 7, 8, 9, 16, 23, 70};
+
 template <class D, class Fn>
 void binToGray(Fn fn, D lo, D hi) {
     for (int offset = 0; offset < 8; ++offset)
-        for (int w : {1, 2, 7, 8, 9, 16, 23, 70})
-            for (int h : {1, 3}) {
-                const int bytes = (offset + w + 7) / 8;
-                GuardedImage<Qvn8u> src({bytes, h, 1, -1, false, std::uint32_t(w * 8 + offset)});
-                GuardedImage<D> dst({w, h, 1, -1, w % 2 == 1, std::uint32_t(w + h)});
-                ASSERT_EQ(fn(src.data(), int(src.step()), offset, dst.data(), int(dst.step()), QvnRoiSize{w, h}, lo, hi),
-                          qvnOk);
-                for (int y = 0; y < h; ++y)
-                    for (int x = 0; x < w; ++x)
-                        ASSERT_EQ(dst.at(x, y), bitAt(src.row(y), offset, x) ? hi : lo)
-                            << "offset " << offset << " (" << x << ", " << y << ")";
-                src.expectUnchanged();
-                dst.expectUntouchedOutsideRoi();
-            }
+        forEachShape(kWidths, {1, 3}, [&](int w, int h, int gap, bool page, std::uint32_t seed) {
+            GuardedImage<Qvn8u> src({(offset + w + 7) / 8, h, 1, gap, !page, seed * 8 + offset});
+            GuardedImage<D> dst({w, h, 1, gap, page, seed});
+            ASSERT_EQ(fn(src.data(), int(src.step()), offset, dst.data(), int(dst.step()), QvnRoiSize{w, h}, lo, hi), qvnOk);
+            expectRoi(dst, 1, [&](std::int64_t x, std::int64_t y) { return bitAt(src.row(y), offset, int(x)) ? hi : lo; },
+                      "offset " + std::to_string(offset));
+            src.expectUnchanged();
+            dst.expectUntouchedOutsideRoi();
+        });
 }
 
 // Destination bytes are checked whole: ROI bits from the threshold rule, the
 // bits before the offset and after the last pixel as they were.
 template <class S, class Fn>
 void grayToBin(Fn fn, S threshold) {
-    std::mt19937 rng(5);
     for (int offset = 0; offset < 8; ++offset)
-        for (int w : {1, 2, 7, 8, 9, 16, 23, 70})
-            for (int h : {1, 3}) {
-                const int bytes = (offset + w + 7) / 8;
-                GuardedImage<S> src({w, h, 1, -1, false, std::uint32_t(w * 8 + offset)});
-                fillSource(src, rng());
-                for (int x = 0; x < w; x += 5) src.at(x, 0) = threshold;  // equal is not greater
-                src.snapshot();
-                GuardedImage<Qvn8u> dst({bytes, h, 1, -1, w % 2 == 0, std::uint32_t(w + h)});
-                std::vector<Qvn8u> before;
-                for (int y = 0; y < h; ++y)
-                    for (int b = 0; b < bytes; ++b) before.push_back(dst.at(b, y));
-                ASSERT_EQ(fn(src.data(), int(src.step()), dst.data(), int(dst.step()), offset, QvnRoiSize{w, h},
-                             threshold),
-                          qvnOk);
-                for (int y = 0; y < h; ++y)
-                    for (int i = 0; i < bytes * 8; ++i) {
-                        const int x = i - offset;
-                        const bool inRoi = x >= 0 && x < w;
-                        const bool was = (before[y * bytes + i / 8] >> (7 - i % 8)) & 1;
-                        const bool want = inRoi ? src.at(x, y) > threshold : was;
-                        ASSERT_EQ(bitAt(dst.row(y), 0, i), want) << "offset " << offset << " bit " << i << " row " << y;
-                    }
-                src.expectUnchanged();
-                dst.expectUntouchedOutsideRoi();
-            }
+        forEachShape(kWidths, {1, 3}, [&](int w, int h, int gap, bool page, std::uint32_t seed) {
+            const int bytes = (offset + w + 7) / 8;
+            GuardedImage<S> src({w, h, 1, gap, !page, seed * 8 + offset});
+            fillSource(src, seed);
+            for (int x = 0; x < w; x += 5) src.at(x, 0) = threshold;  // equal is not greater
+            src.snapshot();
+            GuardedImage<Qvn8u> dst({bytes, h, 1, gap, page, seed});
+            const std::vector<Qvn8u> before = roiContents(dst);
+            ASSERT_EQ(fn(src.data(), int(src.step()), dst.data(), int(dst.step()), offset, QvnRoiSize{w, h}, threshold),
+                      qvnOk);
+            expectRoi(dst, 1, [&](std::int64_t b, std::int64_t y) {
+                int want = before[std::size_t(y * bytes + b)];
+                for (int i = 0; i < 8; ++i) {
+                    const std::int64_t x = b * 8 + i - offset;
+                    const int bit = 0x80 >> i;
+                    if (x >= 0 && x < w) want = src.at(x, y) > threshold ? want | bit : want & ~bit;
+                }
+                return Qvn8u(want);
+            }, "offset " + std::to_string(offset));
+            src.expectUnchanged();
+            dst.expectUntouchedOutsideRoi();
+        });
 }
 
 TEST(BinToGray, EveryTypeAndOffset) {
