@@ -28,40 +28,24 @@ void allFactors(const Call& call, int mode) {
     }
 }
 
-#define QVN_SFS(S, D, fn) \
-    allFactors<S, D>([](auto s, int ss, auto d, int ds, QvnRoiSize r, int sf) { return fn(s, ss, d, ds, r, sf); }, 1)
+#define QVN_SFS(s, d)                                                                                    \
+    allFactors<Qvn##s, Qvn##d>([](auto... a) { return qvniConvert_##s##d##_C1RSfs(a...); }, 1);
+#define QVN_RND_SFS(s, d)                                                                                \
+    allFactors<Qvn##s, Qvn##d>(                                                                          \
+        [mode](auto src, int ss, auto dst, int ds, QvnRoiSize r, int sf) {                               \
+            return qvniConvert_##s##d##_C1RSfs(src, ss, dst, ds, r, mode, sf);                           \
+        },                                                                                               \
+        mode);
 
 TEST(ConvertSfs, IntegerSourcesRoundHalvesToEven) {
-    QVN_SFS(Qvn8u, Qvn8s, qvniConvert_8u8s_C1RSfs);
-    QVN_SFS(Qvn16u, Qvn8s, qvniConvert_16u8s_C1RSfs);
-    QVN_SFS(Qvn16u, Qvn16s, qvniConvert_16u16s_C1RSfs);
-    QVN_SFS(Qvn16s, Qvn8s, qvniConvert_16s8s_C1RSfs);
-    QVN_SFS(Qvn32s, Qvn16u, qvniConvert_32s16u_C1RSfs);
-    QVN_SFS(Qvn32s, Qvn16s, qvniConvert_32s16s_C1RSfs);
-    QVN_SFS(Qvn32u, Qvn8u, qvniConvert_32u8u_C1RSfs);
-    QVN_SFS(Qvn32u, Qvn8s, qvniConvert_32u8s_C1RSfs);
-    QVN_SFS(Qvn32u, Qvn16u, qvniConvert_32u16u_C1RSfs);
-    QVN_SFS(Qvn32u, Qvn16s, qvniConvert_32u16s_C1RSfs);
-    QVN_SFS(Qvn32u, Qvn32s, qvniConvert_32u32s_C1RSfs);
+    QVN_SFS(8u, 8s) QVN_SFS(16u, 8s) QVN_SFS(16u, 16s) QVN_SFS(16s, 8s) QVN_SFS(32s, 16u) QVN_SFS(32s, 16s)
+    QVN_SFS(32u, 8u) QVN_SFS(32u, 8s) QVN_SFS(32u, 16u) QVN_SFS(32u, 16s) QVN_SFS(32u, 32s)
 }
-
-#define QVN_RND_SFS(S, D, fn)                                                                                  \
-    allFactors<S, D>(                                                                                          \
-        [mode](auto s, int ss, auto d, int ds, QvnRoiSize r, int sf) { return fn(s, ss, d, ds, r, mode, sf); }, \
-        mode)
 
 TEST(ConvertSfs, FloatSourcesRoundByMode) {
     for (int mode : {qvnRndZero, qvnRndNear, qvnRndFinancial}) {
-        QVN_RND_SFS(Qvn32f, Qvn8u, qvniConvert_32f8u_C1RSfs);
-        QVN_RND_SFS(Qvn32f, Qvn8s, qvniConvert_32f8s_C1RSfs);
-        QVN_RND_SFS(Qvn32f, Qvn16u, qvniConvert_32f16u_C1RSfs);
-        QVN_RND_SFS(Qvn32f, Qvn16s, qvniConvert_32f16s_C1RSfs);
-        QVN_RND_SFS(Qvn32f, Qvn32s, qvniConvert_32f32s_C1RSfs);
-        QVN_RND_SFS(Qvn32f, Qvn32u, qvniConvert_32f32u_C1RSfs);
-        QVN_RND_SFS(Qvn64f, Qvn8u, qvniConvert_64f8u_C1RSfs);
-        QVN_RND_SFS(Qvn64f, Qvn8s, qvniConvert_64f8s_C1RSfs);
-        QVN_RND_SFS(Qvn64f, Qvn16u, qvniConvert_64f16u_C1RSfs);
-        QVN_RND_SFS(Qvn64f, Qvn16s, qvniConvert_64f16s_C1RSfs);
+        QVN_RND_SFS(32f, 8u) QVN_RND_SFS(32f, 8s) QVN_RND_SFS(32f, 16u) QVN_RND_SFS(32f, 16s) QVN_RND_SFS(32f, 32s)
+        QVN_RND_SFS(32f, 32u) QVN_RND_SFS(64f, 8u) QVN_RND_SFS(64f, 8s) QVN_RND_SFS(64f, 16u) QVN_RND_SFS(64f, 16s)
     }
 }
 
