@@ -57,25 +57,30 @@ TEST(Copy, MaskedFormsWriteOnlyWhereTheMaskIsSet) {
 #undef X
 }
 
+// Fill values, distinct per channel; three-value forms read the first three.
+template <class T>
+constexpr T kFills[4] = {11, 3, 250, 7};
+
 TEST(Set, EveryForm) {
-#define X(t, T)                                                                                        \
+    const auto fills = [](std::initializer_list<int> from) { return map(4, 4, from, {11, 3, 250, 7}); };
+    const ChannelMap c3 = map(3, 3, {kFill, kFill, kFill}, {11, 3, 250});
+#define X(t, T)                                                                                         \
     sweepMove<T>({"Set_" #t "_C1R", map(1, 1, {kFill}, {11})}, QVN_FN(T, qvniSet_##t##_C1R(T(11), d, int(ds), r))); \
-    sweepMove<T>({"Set_" #t "_C3R", map(3, 3, {kFill, kFill, kFill}, {11, 3, 250})},                  \
-                 QVN_FN(T, [&] { const T v[3] = {11, 3, 250}; return qvniSet_##t##_C3R(v, d, int(ds), r); }())); \
-    sweepMove<T>({"Set_" #t "_C4R", map(4, 4, {kFill, kFill, kFill, kFill}, {11, 3, 250, 7})},        \
-                 QVN_FN(T, [&] { const T v[4] = {11, 3, 250, 7}; return qvniSet_##t##_C4R(v, d, int(ds), r); }())); \
-    sweepMove<T>({"Set_" #t "_AC4R", map(4, 4, {kFill, kFill, kFill, kKeep}, {11, 3, 250})},          \
-                 QVN_FN(T, [&] { const T v[3] = {11, 3, 250}; return qvniSet_##t##_AC4R(v, d, int(ds), r); }())); \
-    sweepMove<T>({"Set_" #t "_C1MR", map(1, 1, {kFill}, {7}), 0, 0, true},                            \
-                 QVN_FN(T, qvniSet_##t##_C1MR(T(7), d, int(ds), r, m, int(ms))));                      \
-    sweepMove<T>({"Set_" #t "_C3MR", map(3, 3, {kFill, kFill, kFill}, {1, 100, 3}), 0, 0, true},       \
-                 QVN_FN(T, [&] { const T v[3] = {1, 100, 3}; return qvniSet_##t##_C3MR(v, d, int(ds), r, m, int(ms)); }())); \
-    sweepMove<T>({"Set_" #t "_C4MR", map(4, 4, {kFill, kFill, kFill, kFill}, {9, 8, 7, 6}), 0, 0, true}, \
-                 QVN_FN(T, [&] { const T v[4] = {9, 8, 7, 6}; return qvniSet_##t##_C4MR(v, d, int(ds), r, m, int(ms)); }())); \
-    sweepMove<T>({"Set_" #t "_AC4MR", map(4, 4, {kFill, kFill, kFill, kKeep}, {5, 4, 3}), 0, 0, true}, \
-                 QVN_FN(T, [&] { const T v[3] = {5, 4, 3}; return qvniSet_##t##_AC4MR(v, d, int(ds), r, m, int(ms)); }())); \
-    sweepMove<T>({"Set_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, kFill}, {0, 0, 42}), 0, 2},    \
-                 QVN_FN(T, qvniSet_##t##_C3CR(T(42), d, int(ds), r)));                                 \
+    sweepMove<T>({"Set_" #t "_C3R", c3}, QVN_FN(T, qvniSet_##t##_C3R(kFills<T>, d, int(ds), r)));       \
+    sweepMove<T>({"Set_" #t "_C4R", fills({kFill, kFill, kFill, kFill})},                               \
+                 QVN_FN(T, qvniSet_##t##_C4R(kFills<T>, d, int(ds), r)));                               \
+    sweepMove<T>({"Set_" #t "_AC4R", fills({kFill, kFill, kFill, kKeep})},                              \
+                 QVN_FN(T, qvniSet_##t##_AC4R(kFills<T>, d, int(ds), r)));                              \
+    sweepMove<T>({"Set_" #t "_C1MR", map(1, 1, {kFill}, {7}), 0, 0, true},                              \
+                 QVN_FN(T, qvniSet_##t##_C1MR(T(7), d, int(ds), r, m, int(ms))));                       \
+    sweepMove<T>({"Set_" #t "_C3MR", c3, 0, 0, true},                                                   \
+                 QVN_FN(T, qvniSet_##t##_C3MR(kFills<T>, d, int(ds), r, m, int(ms))));                  \
+    sweepMove<T>({"Set_" #t "_C4MR", fills({kFill, kFill, kFill, kFill}), 0, 0, true},                  \
+                 QVN_FN(T, qvniSet_##t##_C4MR(kFills<T>, d, int(ds), r, m, int(ms))));                  \
+    sweepMove<T>({"Set_" #t "_AC4MR", fills({kFill, kFill, kFill, kKeep}), 0, 0, true},                 \
+                 QVN_FN(T, qvniSet_##t##_AC4MR(kFills<T>, d, int(ds), r, m, int(ms))));                 \
+    sweepMove<T>({"Set_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, kFill}, {0, 0, 42}), 0, 2},     \
+                 QVN_FN(T, qvniSet_##t##_C3CR(T(42), d, int(ds), r)));                                  \
     sweepMove<T>({"Set_" #t "_C4CR channel 3", map(4, 4, {kKeep, kKeep, kKeep, kFill}, {0, 0, 0, 42}), 0, 3}, \
                  QVN_FN(T, qvniSet_##t##_C4CR(T(42), d, int(ds), r)));
     QVN_EACH_TYPE(X)

@@ -126,30 +126,18 @@ void scaleCInPlace(Fn fn) {
 }
 
 TEST(ScaleC, EveryPair) {
-#define QVN_SC(S, D, tok) scaleCAll<S, D>(qvniScaleC_##tok##_C1R)
-#define QVN_SC_FROM(S, s)                                                                                   \
-    QVN_SC(S, Qvn8u, s##8u);                                                                                \
-    QVN_SC(S, Qvn8s, s##8s);                                                                                \
-    QVN_SC(S, Qvn16u, s##16u);                                                                              \
-    QVN_SC(S, Qvn16s, s##16s);                                                                              \
-    QVN_SC(S, Qvn32s, s##32s);                                                                              \
-    QVN_SC(S, Qvn32f, s##32f);                                                                              \
-    QVN_SC(S, Qvn64f, s##64f)
-    // Same-type forms appear in each row through the token without a pair.
-#define qvniScaleC_8u8u_C1R qvniScaleC_8u_C1R
-#define qvniScaleC_8s8s_C1R qvniScaleC_8s_C1R
-#define qvniScaleC_16u16u_C1R qvniScaleC_16u_C1R
-#define qvniScaleC_16s16s_C1R qvniScaleC_16s_C1R
-#define qvniScaleC_32s32s_C1R qvniScaleC_32s_C1R
-#define qvniScaleC_32f32f_C1R qvniScaleC_32f_C1R
-#define qvniScaleC_64f64f_C1R qvniScaleC_64f_C1R
-    QVN_SC_FROM(Qvn8u, 8u);
-    QVN_SC_FROM(Qvn8s, 8s);
-    QVN_SC_FROM(Qvn16u, 16u);
-    QVN_SC_FROM(Qvn16s, 16s);
-    QVN_SC_FROM(Qvn32s, 32s);
-    QVN_SC_FROM(Qvn32f, 32f);
-    QVN_SC_FROM(Qvn64f, 64f);
+#define QVN_SC(s, d) scaleCAll<Qvn##s, Qvn##d>(qvniScaleC_##s##d##_C1R);
+#define QVN_SC_SAME(s) scaleCAll<Qvn##s, Qvn##s>(qvniScaleC_##s##_C1R);
+    QVN_SC_SAME(8u) QVN_SC_SAME(8s) QVN_SC_SAME(16u) QVN_SC_SAME(16s) QVN_SC_SAME(32s) QVN_SC_SAME(32f) QVN_SC_SAME(64f)
+    QVN_SC(8u, 8s) QVN_SC(8u, 16u) QVN_SC(8u, 16s) QVN_SC(8u, 32s) QVN_SC(8u, 32f) QVN_SC(8u, 64f)
+    QVN_SC(8s, 8u) QVN_SC(8s, 16u) QVN_SC(8s, 16s) QVN_SC(8s, 32s) QVN_SC(8s, 32f) QVN_SC(8s, 64f)
+    QVN_SC(16u, 8u) QVN_SC(16u, 8s) QVN_SC(16u, 16s) QVN_SC(16u, 32s) QVN_SC(16u, 32f) QVN_SC(16u, 64f)
+    QVN_SC(16s, 8u) QVN_SC(16s, 8s) QVN_SC(16s, 16u) QVN_SC(16s, 32s) QVN_SC(16s, 32f) QVN_SC(16s, 64f)
+    QVN_SC(32s, 8u) QVN_SC(32s, 8s) QVN_SC(32s, 16u) QVN_SC(32s, 16s) QVN_SC(32s, 32f) QVN_SC(32s, 64f)
+    QVN_SC(32f, 8u) QVN_SC(32f, 8s) QVN_SC(32f, 16u) QVN_SC(32f, 16s) QVN_SC(32f, 32s) QVN_SC(32f, 64f)
+    QVN_SC(64f, 8u) QVN_SC(64f, 8s) QVN_SC(64f, 16u) QVN_SC(64f, 16s) QVN_SC(64f, 32s) QVN_SC(64f, 32f)
+#undef QVN_SC
+#undef QVN_SC_SAME
 }
 
 // Constants for which float arithmetic rounds some results of 8- or 16-bit
