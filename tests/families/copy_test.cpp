@@ -26,99 +26,66 @@ ChannelMap map(int srcElems, int dstElems, std::initializer_list<int> from, std:
     return m;
 }
 
-TEST(Copy, WholePixelsAndLongForms) {
-#define X(t, T)                                                                                        \
-    sweepMove<T>({"Copy_" #t "_C1R", map(1, 1, {0})}, QVN_FN(T, qvniCopy_##t##_C1R(s, int(ss), d, int(ds), r))); \
-    sweepMove<T>({"Copy_" #t "_C3R", map(3, 3, {0, 1, 2})},                                            \
-                 QVN_FN(T, qvniCopy_##t##_C3R(s, int(ss), d, int(ds), r)));                             \
-    sweepMove<T>({"Copy_" #t "_C4R_L", map(4, 4, {0, 1, 2, 3})},                                        \
-                 QVN_FN(T, qvniCopy_##t##_C4R_L(s, ss, d, ds, QvnRoiSizeL{r.width, r.height})));        \
-    sweepMove<T>({"Copy_" #t "_AC4R", map(4, 4, {0, 1, 2, kKeep})},                                    \
-                 QVN_FN(T, qvniCopy_##t##_AC4R(s, int(ss), d, int(ds), r)));
-    QVN_EACH_TYPE(X)
-#undef X
-    sweepMove<Qvn8u>({"CopyManaged_8u_C1R flags 0", map(1, 1, {0})},
-                     QVN_FN(Qvn8u, qvniCopyManaged_8u_C1R(s, int(ss), d, int(ds), r, 0)));
-    sweepMove<Qvn8u>({"CopyManaged_8u_C1R flags 2", map(1, 1, {0})},
-                     QVN_FN(Qvn8u, qvniCopyManaged_8u_C1R(s, int(ss), d, int(ds), r, 2)));
-}
-
-TEST(Copy, MaskedFormsWriteOnlyWhereTheMaskIsSet) {
-#define X(t, T)                                                                                        \
-    sweepMove<T>({"Copy_" #t "_C1MR", map(1, 1, {0}), 0, 0, true},                                    \
-                 QVN_FN(T, qvniCopy_##t##_C1MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
-    sweepMove<T>({"Copy_" #t "_C3MR", map(3, 3, {0, 1, 2}), 0, 0, true},                              \
-                 QVN_FN(T, qvniCopy_##t##_C3MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
-    sweepMove<T>({"Copy_" #t "_C4MR", map(4, 4, {0, 1, 2, 3}), 0, 0, true},                           \
-                 QVN_FN(T, qvniCopy_##t##_C4MR(s, int(ss), d, int(ds), r, m, int(ms))));               \
-    sweepMove<T>({"Copy_" #t "_AC4MR", map(4, 4, {0, 1, 2, kKeep}), 0, 0, true},                      \
-                 QVN_FN(T, qvniCopy_##t##_AC4MR(s, int(ss), d, int(ds), r, m, int(ms))));
-    QVN_EACH_TYPE(X)
-#undef X
-}
+// One sweep of qvni<fn>_<t>_<form> with its channel map and channel offsets;
+// args are the call's arguments after the ROI (a mask) and before it (a value).
+#define QVN_MOVE(fn, t, T, form, mp, sc, dc, masked, ...) \
+    sweepMove<T>({#fn "_" #t "_" #form, mp, sc, dc, masked}, QVN_FN(T, qvni##fn##_##t##_##form(__VA_ARGS__)));
+#define QVN_COPY(t, T, form, mp) QVN_MOVE(Copy, t, T, form, mp, 0, 0, false, s, int(ss), d, int(ds), r)
+#define QVN_COPY_C(t, T, form, mp, sc, dc) QVN_MOVE(Copy, t, T, form, mp, sc, dc, false, s, int(ss), d, int(ds), r)
+#define QVN_COPY_M(t, T, form, mp) QVN_MOVE(Copy, t, T, form, mp, 0, 0, true, s, int(ss), d, int(ds), r, m, int(ms))
+#define QVN_SET(t, T, form, mp, v) QVN_MOVE(Set, t, T, form, mp, 0, 0, false, v, d, int(ds), r)
+#define QVN_SET_M(t, T, form, mp, v) QVN_MOVE(Set, t, T, form, mp, 0, 0, true, v, d, int(ds), r, m, int(ms))
 
 // Fill values, distinct per channel; three-value forms read the first three.
 template <class T>
 constexpr T kFills[4] = {11, 3, 250, 7};
 
+TEST(Copy, WholePixelsMaskedAndLongForms) {
+#define X(t, T)                                                                                         \
+    QVN_COPY(t, T, C1R, map(1, 1, {0})) QVN_COPY_M(t, T, C1MR, map(1, 1, {0}))                          \
+    QVN_COPY(t, T, C3R, map(3, 3, {0, 1, 2})) QVN_COPY_M(t, T, C3MR, map(3, 3, {0, 1, 2}))              \
+    QVN_COPY(t, T, AC4R, map(4, 4, {0, 1, 2, kKeep})) QVN_COPY_M(t, T, AC4MR, map(4, 4, {0, 1, 2, kKeep})) \
+    QVN_COPY_M(t, T, C4MR, map(4, 4, {0, 1, 2, 3}))                                                     \
+    sweepMove<T>({"Copy_" #t "_C4R_L", map(4, 4, {0, 1, 2, 3})},                                        \
+                 QVN_FN(T, qvniCopy_##t##_C4R_L(s, ss, d, ds, QvnRoiSizeL{r.width, r.height})));
+    QVN_EACH_TYPE(X)
+#undef X
+    QVN_MOVE(CopyManaged, 8u, Qvn8u, C1R, map(1, 1, {0}), 0, 0, false, s, int(ss), d, int(ds), r, 0)  // flags 0
+    QVN_MOVE(CopyManaged, 8u, Qvn8u, C1R, map(1, 1, {0}), 0, 0, false, s, int(ss), d, int(ds), r, 2)  // flags 2
+}
+
 TEST(Set, EveryForm) {
     const auto fills = [](std::initializer_list<int> from) { return map(4, 4, from, {11, 3, 250, 7}); };
     const ChannelMap c3 = map(3, 3, {kFill, kFill, kFill}, {11, 3, 250});
+    const ChannelMap c4 = fills({kFill, kFill, kFill, kFill}), ac4 = fills({kFill, kFill, kFill, kKeep});
 #define X(t, T)                                                                                         \
-    sweepMove<T>({"Set_" #t "_C1R", map(1, 1, {kFill}, {11})}, QVN_FN(T, qvniSet_##t##_C1R(T(11), d, int(ds), r))); \
-    sweepMove<T>({"Set_" #t "_C3R", c3}, QVN_FN(T, qvniSet_##t##_C3R(kFills<T>, d, int(ds), r)));       \
-    sweepMove<T>({"Set_" #t "_C4R", fills({kFill, kFill, kFill, kFill})},                               \
-                 QVN_FN(T, qvniSet_##t##_C4R(kFills<T>, d, int(ds), r)));                               \
-    sweepMove<T>({"Set_" #t "_AC4R", fills({kFill, kFill, kFill, kKeep})},                              \
-                 QVN_FN(T, qvniSet_##t##_AC4R(kFills<T>, d, int(ds), r)));                              \
-    sweepMove<T>({"Set_" #t "_C1MR", map(1, 1, {kFill}, {7}), 0, 0, true},                              \
-                 QVN_FN(T, qvniSet_##t##_C1MR(T(7), d, int(ds), r, m, int(ms))));                       \
-    sweepMove<T>({"Set_" #t "_C3MR", c3, 0, 0, true},                                                   \
-                 QVN_FN(T, qvniSet_##t##_C3MR(kFills<T>, d, int(ds), r, m, int(ms))));                  \
-    sweepMove<T>({"Set_" #t "_C4MR", fills({kFill, kFill, kFill, kFill}), 0, 0, true},                  \
-                 QVN_FN(T, qvniSet_##t##_C4MR(kFills<T>, d, int(ds), r, m, int(ms))));                  \
-    sweepMove<T>({"Set_" #t "_AC4MR", fills({kFill, kFill, kFill, kKeep}), 0, 0, true},                 \
-                 QVN_FN(T, qvniSet_##t##_AC4MR(kFills<T>, d, int(ds), r, m, int(ms))));                 \
-    sweepMove<T>({"Set_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, kFill}, {0, 0, 42}), 0, 2},     \
-                 QVN_FN(T, qvniSet_##t##_C3CR(T(42), d, int(ds), r)));                                  \
-    sweepMove<T>({"Set_" #t "_C4CR channel 3", map(4, 4, {kKeep, kKeep, kKeep, kFill}, {0, 0, 0, 42}), 0, 3}, \
-                 QVN_FN(T, qvniSet_##t##_C4CR(T(42), d, int(ds), r)));
+    QVN_SET(t, T, C1R, map(1, 1, {kFill}, {11}), T(11)) QVN_SET_M(t, T, C1MR, map(1, 1, {kFill}, {7}), T(7)) \
+    QVN_SET(t, T, C3R, c3, kFills<T>) QVN_SET_M(t, T, C3MR, c3, kFills<T>)                              \
+    QVN_SET(t, T, C4R, c4, kFills<T>) QVN_SET_M(t, T, C4MR, c4, kFills<T>)                              \
+    QVN_SET(t, T, AC4R, ac4, kFills<T>) QVN_SET_M(t, T, AC4MR, ac4, kFills<T>)                          \
+    QVN_MOVE(Set, t, T, C3CR, map(3, 3, {kKeep, kKeep, kFill}, {0, 0, 42}), 0, 2, false, T(42), d, int(ds), r) \
+    QVN_MOVE(Set, t, T, C4CR, map(4, 4, {kKeep, kKeep, kKeep, kFill}, {0, 0, 0, 42}), 0, 3, false, T(42), d, int(ds), r)
     QVN_EACH_TYPE(X)
 #undef X
-    sweepMove<Qvn8u>({"Set_8u_C4CR channel 1", map(4, 4, {kKeep, kFill, kKeep, kKeep}, {0, 42}), 0, 1},
-                     QVN_FN(Qvn8u, qvniSet_8u_C4CR(42, d, int(ds), r)));
+    QVN_MOVE(Set, 8u, Qvn8u, C4CR, map(4, 4, {kKeep, kFill, kKeep, kKeep}, {0, 42}), 0, 1, false, 42, d, int(ds), r)
 }
 
 // Pointers address the chosen channel: the last one reaches the end of the
 // row (the guarded images end at a protected page every other case).
 TEST(Copy, OneChannelFormsAndLayoutChanges) {
-#define X(t, T)                                                                                        \
-    sweepMove<T>({"Copy_" #t "_C3C1R channel 2", map(3, 1, {2}), 2, 0},                                \
-                 QVN_FN(T, qvniCopy_##t##_C3C1R(s, int(ss), d, int(ds), r)));                          \
-    sweepMove<T>({"Copy_" #t "_C4C1R channel 3", map(4, 1, {3}), 3, 0},                                \
-                 QVN_FN(T, qvniCopy_##t##_C4C1R(s, int(ss), d, int(ds), r)));                          \
-    sweepMove<T>({"Copy_" #t "_C1C3R channel 2", map(1, 3, {kKeep, kKeep, 0}), 0, 2},                  \
-                 QVN_FN(T, qvniCopy_##t##_C1C3R(s, int(ss), d, int(ds), r)));                          \
-    sweepMove<T>({"Copy_" #t "_C1C4R channel 3", map(1, 4, {kKeep, kKeep, kKeep, 0}), 0, 3},           \
-                 QVN_FN(T, qvniCopy_##t##_C1C4R(s, int(ss), d, int(ds), r)));                          \
-    sweepMove<T>({"Copy_" #t "_C3CR channel 2", map(3, 3, {kKeep, kKeep, 2}), 2, 2},                   \
-                 QVN_FN(T, qvniCopy_##t##_C3CR(s, int(ss), d, int(ds), r)));                           \
-    sweepMove<T>({"Copy_" #t "_C4CR channel 3", map(4, 4, {kKeep, kKeep, kKeep, 3}), 3, 3},            \
-                 QVN_FN(T, qvniCopy_##t##_C4CR(s, int(ss), d, int(ds), r)));                           \
-    sweepMove<T>({"Copy_" #t "_AC4C3R", map(4, 3, {0, 1, 2})},                                         \
-                 QVN_FN(T, qvniCopy_##t##_AC4C3R(s, int(ss), d, int(ds), r)));                         \
-    sweepMove<T>({"Copy_" #t "_C3AC4R", map(3, 4, {0, 1, 2, kKeep})},                                  \
-                 QVN_FN(T, qvniCopy_##t##_C3AC4R(s, int(ss), d, int(ds), r)));
+#define X(t, T)                                                                                         \
+    QVN_COPY_C(t, T, C3C1R, map(3, 1, {2}), 2, 0) QVN_COPY_C(t, T, C4C1R, map(4, 1, {3}), 3, 0)         \
+    QVN_COPY_C(t, T, C1C3R, map(1, 3, {kKeep, kKeep, 0}), 0, 2)                                         \
+    QVN_COPY_C(t, T, C1C4R, map(1, 4, {kKeep, kKeep, kKeep, 0}), 0, 3)                                  \
+    QVN_COPY_C(t, T, C3CR, map(3, 3, {kKeep, kKeep, 2}), 2, 2)                                          \
+    QVN_COPY_C(t, T, C4CR, map(4, 4, {kKeep, kKeep, kKeep, 3}), 3, 3)                                   \
+    QVN_COPY(t, T, AC4C3R, map(4, 3, {0, 1, 2})) QVN_COPY(t, T, C3AC4R, map(3, 4, {0, 1, 2, kKeep}))
     QVN_EACH_TYPE(X)
 #undef X
-    sweepMove<Qvn8u>({"Copy_8u_C3C1R channel 0", map(3, 1, {0})},
-                     QVN_FN(Qvn8u, qvniCopy_8u_C3C1R(s, int(ss), d, int(ds), r)));
-    sweepMove<Qvn8u>({"Copy_8u_C1C4R channel 1", map(1, 4, {kKeep, 0, kKeep, kKeep}), 0, 1},
-                     QVN_FN(Qvn8u, qvniCopy_8u_C1C4R(s, int(ss), d, int(ds), r)));
-    sweepMove<Qvn8u>({"Dup_8u_C1C3R", map(1, 3, {0, 0, 0})},
-                     QVN_FN(Qvn8u, qvniDup_8u_C1C3R(s, int(ss), d, int(ds), r)));
-    sweepMove<Qvn8u>({"Dup_8u_C1C4R", map(1, 4, {0, 0, 0, 0})},
-                     QVN_FN(Qvn8u, qvniDup_8u_C1C4R(s, int(ss), d, int(ds), r)));
+    QVN_COPY(8u, Qvn8u, C3C1R, map(3, 1, {0}))
+    QVN_COPY_C(8u, Qvn8u, C1C4R, map(1, 4, {kKeep, 0, kKeep, kKeep}), 0, 1)
+    QVN_MOVE(Dup, 8u, Qvn8u, C1C3R, map(1, 3, {0, 0, 0}), 0, 0, false, s, int(ss), d, int(ds), r)
+    QVN_MOVE(Dup, 8u, Qvn8u, C1C4R, map(1, 4, {0, 0, 0, 0}), 0, 0, false, s, int(ss), d, int(ds), r)
 }
 
 // Interleaved to planar and back: K planes sharing one step.
