@@ -28,41 +28,37 @@ ChannelMap orderMap(int srcElems, int dstElems, const int* order, int entries, d
 // Orders passed to the captureless calls below.
 int gOrder[4];
 
+// One sweep of qvniSwapChannels_<t>_<form>; extra are the arguments after the order.
+#define QVN_SWAP(sweepFn, t, T, form, mp, ...)                                                      \
+    sweepFn<T>({"SwapChannels_" #t "_" #form, mp},                                                  \
+               QVN_FN(T, qvniSwapChannels_##t##_##form(s, int(ss), d, int(ds), r, gOrder __VA_ARGS__)));
+#define QVN_SWAP_I(form, mp)                                                                        \
+    sweepMove<Qvn8u>({"SwapChannels_8u_" #form, mp, 0, 0, false, true},                             \
+                     QVN_FN(Qvn8u, qvniSwapChannels_8u_##form(d, int(ds), r, gOrder)));
+
 TEST(SwapChannels, EveryLayoutAndType) {
     const int orders3[][4] = {{2, 1, 0}, {1, 1, 0}};
     const int orders4[][4] = {{3, 2, 1, 0}, {1, 3, 3, 0}, {2, 1, 0, 3}};  // the last has its own row
-    for (const auto& o : orders3) {
-        std::copy(o, o + 4, gOrder);
-#define X(t, T)                                                                                         \
-        sweepMove<T>({"SwapChannels_" #t "_C3R", orderMap(3, 3, o, 3)},                                 \
-                     QVN_FN(T, qvniSwapChannels_##t##_C3R(s, int(ss), d, int(ds), r, gOrder)));         \
-        sweepMove<T>({"SwapChannels_" #t "_AC4R", orderMap(4, 4, o, 3)},                                \
-                     QVN_FN(T, qvniSwapChannels_##t##_AC4R(s, int(ss), d, int(ds), r, gOrder)));
-        QVN_EACH_TYPE(X)
-#undef X
-        sweepMove<Qvn8u>({"SwapChannels_8u_C3IR", orderMap(3, 3, o, 3), 0, 0, false, true},
-                         QVN_FN(Qvn8u, qvniSwapChannels_8u_C3IR(d, int(ds), r, gOrder)));
-    }
-    for (const auto& o : orders4) {
-        std::copy(o, o + 4, gOrder);
-#define X(t, T)                                                                                         \
-        sweepMove<T>({"SwapChannels_" #t "_C4R", orderMap(4, 4, o, 4)},                                 \
-                     QVN_FN(T, qvniSwapChannels_##t##_C4R(s, int(ss), d, int(ds), r, gOrder)));         \
-        sweepMove<T>({"SwapChannels_" #t "_C4C3R", orderMap(4, 3, o, 3)},                               \
-                     QVN_FN(T, qvniSwapChannels_##t##_C4C3R(s, int(ss), d, int(ds), r, gOrder)));
-        QVN_EACH_TYPE(X)
-#undef X
-        sweepMove<Qvn8u>({"SwapChannels_8u_C4IR", orderMap(4, 4, o, 4), 0, 0, false, true},
-                         QVN_FN(Qvn8u, qvniSwapChannels_8u_C4IR(d, int(ds), r, gOrder)));
-    }
     // C3C4: a source channel, the fill value and an untouched channel in one
     // order, and the order that leaves channel 0 alone.
     const int orders34[][4] = {{2, 3, 0, 9}, {3, 0, 1, 2}, {4, 0, 1, 2}};
+    for (const auto& o : orders3) {
+        std::copy(o, o + 4, gOrder);
+#define X(t, T) QVN_SWAP(sweepMove, t, T, C3R, orderMap(3, 3, o, 3)) QVN_SWAP(sweepMove, t, T, AC4R, orderMap(4, 4, o, 3))
+        QVN_EACH_TYPE(X)
+#undef X
+        QVN_SWAP_I(C3IR, orderMap(3, 3, o, 3))
+    }
+    for (const auto& o : orders4) {
+        std::copy(o, o + 4, gOrder);
+#define X(t, T) QVN_SWAP(sweepMove, t, T, C4R, orderMap(4, 4, o, 4)) QVN_SWAP(sweepMove, t, T, C4C3R, orderMap(4, 3, o, 3))
+        QVN_EACH_TYPE(X)
+#undef X
+        QVN_SWAP_I(C4IR, orderMap(4, 4, o, 4))
+    }
     for (const auto& o : orders34) {
         std::copy(o, o + 4, gOrder);
-#define X(t, T)                                                                                         \
-        sweepMove<T>({"SwapChannels_" #t "_C3C4R", orderMap(3, 4, o, 4, 77)},                           \
-                     QVN_FN(T, qvniSwapChannels_##t##_C3C4R(s, int(ss), d, int(ds), r, gOrder, T(77))));
+#define X(t, T) QVN_SWAP(sweepMove, t, T, C3C4R, orderMap(3, 4, o, 4, 77), , T(77))
         QVN_EACH_TYPE(X)
 #undef X
     }
@@ -73,15 +69,11 @@ TEST(SwapChannels, EveryOrderOf8u) {
     for (int o = 0; o < 6 * 6 * 6 * 6; ++o) {
         int order[4] = {o % 6, o / 6 % 6, o / 36 % 6, o / 216};
         std::copy(order, order + 4, gOrder);
-        const bool valid3 = order[0] < 3 && order[1] < 3 && order[2] < 3;
-        if (o < 216 && valid3)
-            sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C3R", orderMap(3, 3, order, 3)},
-                                 QVN_FN(Qvn8u, qvniSwapChannels_8u_C3R(s, int(ss), d, int(ds), r, gOrder)));
+        if (o < 216 && order[0] < 3 && order[1] < 3 && order[2] < 3)
+            QVN_SWAP(sweepMoveOnce, 8u, Qvn8u, C3R, orderMap(3, 3, order, 3))
         if (order[0] < 4 && order[1] < 4 && order[2] < 4 && order[3] < 4)
-            sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C4R", orderMap(4, 4, order, 4)},
-                                 QVN_FN(Qvn8u, qvniSwapChannels_8u_C4R(s, int(ss), d, int(ds), r, gOrder)));
-        sweepMoveOnce<Qvn8u>({"SwapChannels_8u_C3C4R", orderMap(3, 4, order, 4, 5)},
-                             QVN_FN(Qvn8u, qvniSwapChannels_8u_C3C4R(s, int(ss), d, int(ds), r, gOrder, 5)));
+            QVN_SWAP(sweepMoveOnce, 8u, Qvn8u, C4R, orderMap(4, 4, order, 4))
+        QVN_SWAP(sweepMoveOnce, 8u, Qvn8u, C3C4R, orderMap(3, 4, order, 4, 5), , 5)
         if (testing::Test::HasFailure()) {
             ADD_FAILURE() << "order " << order[0] << order[1] << order[2] << order[3];
             return;
