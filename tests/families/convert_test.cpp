@@ -36,24 +36,15 @@ TEST(Convert, IntegerAndWideningPairsMatchTheExactModel) {
 #undef QVN_EXACT
 }
 
+// 32s and 32u to 32f round to nearest even; the Rs forms clamp negatives to 0.
 TEST(Convert, OneChannelAndSignedToUnsigned) {
-    const auto c1 = [](auto s, auto d, auto call) {
-        using S = decltype(s);
-        using D = decltype(d);
-        sweep<S, D>(1, false, call, exact<S, D>());
-        exhaustive<S, D>(call, exact<S, D>());
-    };
-    c1(Qvn8s{}, Qvn16s{}, QVN_CALL(qvniConvert_8s16s_C1R));
-    c1(Qvn8s{}, Qvn64f{}, QVN_CALL(qvniConvert_8s64f_C1R));
-    c1(Qvn16u{}, Qvn32u{}, QVN_CALL(qvniConvert_16u32u_C1R));
-    c1(Qvn32s{}, Qvn32f{}, QVN_CALL(qvniConvert_32s32f_C1R));  // rounds to nearest even
-    c1(Qvn32u{}, Qvn32f{}, QVN_CALL(qvniConvert_32u32f_C1R));
-    c1(Qvn8s{}, Qvn8u{}, QVN_CALL(qvniConvert_8s8u_C1Rs));
-    c1(Qvn8s{}, Qvn16u{}, QVN_CALL(qvniConvert_8s16u_C1Rs));
-    c1(Qvn8s{}, Qvn32u{}, QVN_CALL(qvniConvert_8s32u_C1Rs));
-    c1(Qvn16s{}, Qvn16u{}, QVN_CALL(qvniConvert_16s16u_C1Rs));
-    c1(Qvn16s{}, Qvn32u{}, QVN_CALL(qvniConvert_16s32u_C1Rs));
-    c1(Qvn32s{}, Qvn32u{}, QVN_CALL(qvniConvert_32s32u_C1Rs));
+#define QVN_C1(s, d, sfx)                                                                 \
+    sweep<Qvn##s, Qvn##d>(1, false, QVN_CALL(qvniConvert_##s##d##_##sfx), exact<Qvn##s, Qvn##d>()); \
+    exhaustive<Qvn##s, Qvn##d>(QVN_CALL(qvniConvert_##s##d##_##sfx), exact<Qvn##s, Qvn##d>());
+    QVN_C1(8s, 16s, C1R) QVN_C1(8s, 64f, C1R) QVN_C1(16u, 32u, C1R) QVN_C1(32s, 32f, C1R) QVN_C1(32u, 32f, C1R)
+    QVN_C1(8s, 8u, C1Rs) QVN_C1(8s, 16u, C1Rs) QVN_C1(8s, 32u, C1Rs) QVN_C1(16s, 16u, C1Rs) QVN_C1(16s, 32u, C1Rs)
+    QVN_C1(32s, 32u, C1Rs)
+#undef QVN_C1
 }
 
 TEST(Convert, FloatNarrowingRoundsByModeAndSaturates) {
