@@ -10,6 +10,8 @@
 // --filter   only operations whose name contains TEXT
 // --check    time nothing: run every case's output check at a few sizes
 //            (odd ones included) and report the failures
+// --target   sse3, avx2 or avx512: run our side with that build target instead
+//            of the one the library chose for this processor
 // Other arguments go to Google Benchmark unchanged.
 #include <benchmark/benchmark.h>
 
@@ -27,6 +29,7 @@
 
 #include "bandwidth.h"
 #include "bench.h"
+#include "core/dispatch.h"
 #include "report.h"
 
 namespace qbench {
@@ -40,7 +43,7 @@ namespace {
 
 struct Settings {
     bool quick = false, raw = false, checkOnly = false;
-    std::string json, filter;
+    std::string json, filter, target;
     double minTime() const { return quick ? 0.03 : 0.25; }
     int repetitions() const { return quick ? 3 : 5; }
 };
@@ -192,6 +195,7 @@ Settings parseArgs(int& argc, char** argv) {
         else if (a == "--check") s.checkOnly = true;
         else if (a == "--json" && i + 1 < argc) s.json = argv[++i];
         else if (a == "--filter" && i + 1 < argc) s.filter = argv[++i];
+        else if (a == "--target" && i + 1 < argc) s.target = argv[++i];
         else argv[out++] = argv[i];
     }
     argc = out;
@@ -238,6 +242,15 @@ int main(int argc, char** argv) {
     if (benchmark::ReportUnrecognizedArguments(argc, argv)) return 2;
     // This library starts no threads; the peer runs on one thread as well.
     cv::setNumThreads(1);
+    if (!s.target.empty()) {
+        static const char* const names[qvn::kTargetCount] = {"sse3", "avx2", "avx512"};
+        int t = 0;
+        while (t < qvn::kTargetCount && s.target != names[t]) ++t;
+        if (t == qvn::kTargetCount || !qvn::dispatch::useTarget(qvn::Target(t))) {
+            std::fprintf(stderr, "target %s: unknown, not built or not supported here\n", s.target.c_str());
+            return 2;
+        }
+    }
     if (s.checkOnly) return checkAll(s);
 
     for (const Stream& st : streams()) {

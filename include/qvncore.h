@@ -33,10 +33,20 @@ QVN_API QvnStatus qvnGetMaxCacheSizeB(int* pSize);
 #define qvnCpuSSSE3    0x8ULL
 #define qvnCpuSSE41    0x10ULL
 #define qvnCpuSSE42    0x20ULL
+#define qvnCpuPOPCNT   0x40ULL
+#define qvnCpuMOVBE    0x80ULL
 #define qvnCpuAVX      0x100ULL
+#define qvnCpuF16C     0x400ULL
+#define qvnCpuLZCNT    0x800ULL
+#define qvnCpuFMA      0x1000ULL
+#define qvnCpuBMI1     0x2000ULL
+#define qvnCpuBMI2     0x4000ULL
 #define qvnCpuAVX2     0x8000ULL
 #define qvnCpuAVX512F  0x10000ULL
+#define qvnCpuAVX512CD 0x20000ULL
 #define qvnCpuAVX512BW 0x40000ULL
+#define qvnCpuAVX512DQ 0x80000ULL
+#define qvnCpuAVX512VL 0x100000ULL
 /* Asked by the general border filter's size query: the running build may use
  * the wider per-row scratch area (set when AVX-512F is usable). */
 #define qvnCpuWideScratch 0x8000000ULL

@@ -17,17 +17,27 @@ std::uint64_t detectFeatures() {
     if (l1.ecx & (1u << 9)) f |= qvnCpuSSSE3;
     if (l1.ecx & (1u << 19)) f |= qvnCpuSSE41;
     if (l1.ecx & (1u << 20)) f |= qvnCpuSSE42;
+    if (l1.ecx & (1u << 22)) f |= qvnCpuMOVBE;
+    if (l1.ecx & (1u << 23)) f |= qvnCpuPOPCNT;
+    if (cpuid(0x80000001u).ecx & (1u << 5)) f |= qvnCpuLZCNT;
 
     const bool osxsave = l1.ecx & (1u << 27);
     const std::uint64_t xcr0 = osxsave ? qvncore::xgetbv0() : 0;
     const bool ymmState = (xcr0 & 0x6) == 0x6;      // XMM and YMM
     const bool zmmState = (xcr0 & 0xE6) == 0xE6;    // plus opmask and ZMM
     if (ymmState && (l1.ecx & (1u << 28))) f |= qvnCpuAVX;
+    if (ymmState && (l1.ecx & (1u << 29))) f |= qvnCpuF16C;
+    if (ymmState && (l1.ecx & (1u << 12))) f |= qvnCpuFMA;
 
     const qvncore::CpuidRegs l7 = cpuid(7, 0);
+    if (l7.ebx & (1u << 3)) f |= qvnCpuBMI1;
+    if (l7.ebx & (1u << 8)) f |= qvnCpuBMI2;
     if (ymmState && (l7.ebx & (1u << 5))) f |= qvnCpuAVX2;
     if (zmmState && (l7.ebx & (1u << 16))) f |= qvnCpuAVX512F | qvnCpuWideScratch;
+    if (zmmState && (l7.ebx & (1u << 17))) f |= qvnCpuAVX512DQ;
+    if (zmmState && (l7.ebx & (1u << 28))) f |= qvnCpuAVX512CD;
     if (zmmState && (l7.ebx & (1u << 30))) f |= qvnCpuAVX512BW;
+    if (zmmState && (l7.ebx & (1u << 31))) f |= qvnCpuAVX512VL;
     return f;
 }
 

@@ -2,7 +2,7 @@
 #ifndef QVN_CORE_FPROUND_INL_H
 #define QVN_CORE_FPROUND_INL_H
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/target.h"
 
 QVN_TARGET_BEGIN

@@ -48,8 +48,8 @@ inline T* mallocImage(QvnSizeL width, QvnSizeL height, QvnSizeL* pStepBytes) {
 // Releases an image from mallocImage; no check of its own.
 inline void freeImage(void* ptr) { qvnFree(ptr); }
 
-// The version record of this build (read-only data).
-const QvnVersionInfo* libVersion();
+// The version record of target t's build (read-only data).
+const QvnVersionInfo* libVersion(Target t);
 
 }  // namespace core
 }  // namespace qvn

@@ -11,6 +11,12 @@
 
 namespace qvn {
 
+// The build targets, narrowest first: x86-64 with SSE3 (16-byte vectors),
+// with AVX2, FMA, BMI2 and F16C (32-byte), with AVX-512 F, BW, DQ and VL
+// (64-byte).
+enum class Target : int { kSse3 = 0, kAvx2 = 1, kAvx512 = 2 };
+inline constexpr int kTargetCount = 3;
+
 // ROI size in 64-bit arithmetic; both public forms convert to it, so a 32-bit
 // function and its _L twin run the same implementation.
 struct RoiL {

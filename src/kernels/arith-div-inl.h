@@ -43,7 +43,7 @@ struct ZeroWatch {
         return z;
     }
     QvnStatus status() const {
-        return seenScalar || isa::moveMask8(seen) != 0 ? qvnWarnDivByZero : qvnOk;
+        return seenScalar || isa::anyTrue(seen) ? qvnWarnDivByZero : qvnOk;
     }
 };
 
@@ -167,36 +167,70 @@ inline V<float> divRefined(V<float> x, V<float> y) {
     return isa::mul(x, isa::add(r0, isa::mul(isa::add(isa::mul(r0, e), r0), e)));
 }
 
-// d = x / y over n elements in groups of eight after the aligned head; a group
-// that holds a zero divisor goes element by element, as do head and tail.
-// Returns whether a zero divisor was met. With Keep every fourth element
-// (alpha) is neither used nor written.
+// d = x / y over n elements in groups of eight that start where the head that
+// 16-byte aligns d ends: the grouping every target keeps, whatever its vector
+// size. A group that holds a zero divisor goes element by element (true
+// division), as do head and tail. Returns whether a zero divisor was met. With
+// Keep every fourth element (alpha) is neither used nor written.
 template <bool Keep>
 inline bool divRow32f(const float* x, const float* y, float* d, int64_t n) {
+    constexpr int64_t kGroup = 8;
+    constexpr int64_t kLanes = int64_t(isa::kLanes<float>);
+    constexpr int64_t kStep = kLanes > kGroup ? kLanes : kGroup;  // whole groups in whole vectors
+    constexpr int kVecs = int(kStep / kLanes);
     bool zero = false;
-    int64_t head = headToAlign16(d, n);
-    if (head < 0) head = n;
-    int64_t i = 0;
     const auto one = [&](int64_t k) {
         if (!Keep || k % 4 != 3) d[k] = divElement(x[k], y[k], zero);
     };
+    const auto groupHasZero = [&](int64_t k) {
+        for (int64_t j = k; j < k + kGroup; ++j)
+            if ((!Keep || j % 4 != 3) && y[j] == 0.0f) return true;
+        return false;
+    };
+    int64_t head = headToAlign16(d, n);
+    if (head < 0) head = n;
+    int64_t i = 0;
     for (; i < head; ++i) one(i);
     const V<float> alpha = Keep ? alphaLanes<float>(i) : isa::zero<float>();
-    for (; i + 8 <= n; i += 8) {
-        const V<float> y0 = isa::loadU(y + i), y1 = isa::loadU(y + i + 4), z = isa::zero<float>();
-        const V<float> hit = isa::andNot(alpha, isa::bitOr(isa::cmpEq(y0, z), isa::cmpEq(y1, z)));
-        if (isa::moveMask(hit) != 0) {
-            for (int k = 0; k < 8; ++k) one(i + k);
+    for (; i + kStep <= n; i += kStep) {
+        V<float> q[kVecs], hit = isa::zero<float>();
+        for (int v = 0; v < kVecs; ++v) {
+            const V<float> yv = isa::loadU(y + i + v * kLanes);
+            hit = isa::bitOr(hit, isa::andNot(alpha, isa::cmpEq(yv, isa::zero<float>())));
+            q[v] = divRefined(isa::loadU(x + i + v * kLanes), yv);
+        }
+        if (isa::anyTrue(hit)) {
+            if constexpr (kStep == kGroup) {
+                for (int64_t k = i; k < i + kGroup; ++k) one(k);
+                continue;
+            } else {  // one vector of several groups: the groups with a zero element by element
+                alignas(isa::kVectorBytes) float t[kStep];
+                isa::storeA(t, q[0]);
+                for (int64_t g = 0; g < kStep; g += kGroup)
+                    if (groupHasZero(i + g))
+                        for (int64_t j = g; j < g + kGroup; ++j) t[j] = divElement(x[i + j], y[i + j], zero);
+                q[0] = isa::loadA(t);
+            }
+        }
+        for (int v = 0; v < kVecs; ++v) {
+            if constexpr (Keep) isa::storeKeep(d + i + v * kLanes, q[v], alpha);
+            else isa::storeU(d + i + v * kLanes, q[v]);
+        }
+    }
+    // Whole groups left where a vector holds several: staged through a vector.
+    for (; i + kGroup <= n; i += kGroup) {
+        if (groupHasZero(i)) {
+            for (int64_t k = i; k < i + kGroup; ++k) one(k);
             continue;
         }
-        const V<float> r0 = divRefined(isa::loadU(x + i), y0), r1 = divRefined(isa::loadU(x + i + 4), y1);
-        if constexpr (Keep) {
-            isa::storeA(d + i, isa::select(alpha, isa::loadA(d + i), r0));
-            isa::storeA(d + i + 4, isa::select(alpha, isa::loadA(d + i + 4), r1));
-        } else {
-            isa::storeA(d + i, r0);
-            isa::storeA(d + i + 4, r1);
-        }
+        alignas(isa::kVectorBytes) float tx[kStep] = {}, ty[kStep], t[kStep];
+        for (int64_t j = 0; j < kStep; ++j) ty[j] = 1.0f;
+        std::memcpy(tx, x + i, kGroup * sizeof(float));
+        std::memcpy(ty, y + i, kGroup * sizeof(float));
+        for (int v = 0; v < kVecs; ++v)
+            isa::storeA(t + v * kLanes, divRefined(isa::loadA(tx + v * kLanes), isa::loadA(ty + v * kLanes)));
+        for (int64_t j = 0; j < kGroup; ++j)
+            if (!Keep || (i + j) % 4 != 3) d[i + j] = t[j];
     }
     for (; i < n; ++i) one(i);
     return zero;

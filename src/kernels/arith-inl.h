@@ -14,7 +14,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/store-inl.h"
 
 QVN_TARGET_BEGIN
@@ -301,7 +301,7 @@ struct ConstOperand {
     T at(int64_t i) const { return c[i % K]; }
     void start(int64_t i0) {  // the vectors for a body that starts at element i0
         for (int k = 0; k < kPeriod; ++k) {
-            alignas(16) T lane[isa::kLanes<T>];
+            alignas(isa::kVectorBytes) T lane[isa::kLanes<T>];
             for (std::size_t e = 0; e < isa::kLanes<T>; ++e) lane[e] = c[(i0 + k * int64_t(isa::kLanes<T>) + int64_t(e)) % K];
             v[k] = isa::loadA(lane);
         }
@@ -314,7 +314,7 @@ struct ConstOperand {
 // so one mask serves every vector of a row body.
 template <class T>
 inline V<T> alphaLanes(int64_t i0) {
-    alignas(16) T lane[isa::kLanes<T>];
+    alignas(isa::kVectorBytes) T lane[isa::kLanes<T>];
     for (std::size_t e = 0; e < isa::kLanes<T>; ++e) {
         T m;
         unsigned char* b = reinterpret_cast<unsigned char*>(&m);
@@ -325,12 +325,12 @@ inline V<T> alphaLanes(int64_t i0) {
 }
 
 // The row template: d[i] = kern(x[i], y[i]) over n elements, scalar head until
-// d is 16-byte aligned, vector body, scalar tail. With Keep every fourth element
+// d is vector-aligned, vector body, scalar tail. With Keep every fourth element
 // (alpha) is left as it is.
 template <bool Keep, class T, class Kern, class Y>
 inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
-    int64_t head = headToAlign16(d, n);
+    int64_t head = headToAlign(d, n);
     if (head < 0) head = n;
     int64_t i = 0;
     for (; i < head; ++i)
@@ -341,7 +341,7 @@ inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
         if constexpr (Keep) kern.skipLanes(alpha);
         const auto one = [&](int64_t k, V<T> yv) {
             const V<T> r = kern.vector(isa::loadU(x + k), yv);
-            if constexpr (Keep) isa::storeA(d + k, isa::select(alpha, isa::loadA(d + k), r));
+            if constexpr (Keep) isa::storeKeep(d + k, r, alpha);
             else isa::storeA(d + k, r);
         };
         if constexpr (Y::kPeriod == 3) {  // a 3-constant pattern: three vectors a round

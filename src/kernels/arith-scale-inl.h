@@ -69,7 +69,7 @@ struct MulC64fKernel {
         const V<float> q = isa::min(isa::max(isa::toFloat(a, b), lo), hi);
         return isa::toInt(isa::add(q, isa::bitOr(vhalf, isa::bitAnd(q, sign))));
     }
-    // c holds the constants of the vector's lanes, two per double vector.
+    // c holds the constants of the vector's lanes, as double vectors in order.
     V<T> vector(V<T> x, const V<double>* c) const {
         if constexpr (std::is_same_v<T, float>) {
             return isa::toFloat(isa::mul(isa::toDoubleLo(x), c[0]), isa::mul(isa::toDoubleHi(x), c[1]));
@@ -88,18 +88,19 @@ struct MulC64fKernel {
 template <class T, int K>
 inline void mulC64fRow(const T* x, const double* c, T* d, int64_t n, const MulC64fKernel<T>& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
-    constexpr int kPeriod = K == 3 ? 3 : 1, kHalves = int(kLanes / 2);
-    int64_t head = headToAlign16(d, n);
+    constexpr int64_t kPerDouble = isa::kLanes<double>;
+    constexpr int kPeriod = K == 3 ? 3 : 1, kParts = int(kLanes / kPerDouble);
+    int64_t head = headToAlign(d, n);
     if (head < 0) head = n;
     int64_t i = 0;
     for (; i < head; ++i) d[i] = kern.scalar(x[i], c[i % K]);
     if (i + kLanes <= n) {
-        V<double> cv[kPeriod][kHalves];
+        V<double> cv[kPeriod][kParts];  // the constants of each vector's lanes
         for (int p = 0; p < kPeriod; ++p)
-            for (int h = 0; h < kHalves; ++h) {
-                alignas(16) double pair[2];
-                for (int e = 0; e < 2; ++e) pair[e] = c[(i + p * kLanes + 2 * h + e) % K];
-                cv[p][h] = isa::loadA(pair);
+            for (int h = 0; h < kParts; ++h) {
+                alignas(isa::kVectorBytes) double lanes[kPerDouble];
+                for (int64_t e = 0; e < kPerDouble; ++e) lanes[e] = c[(i + p * kLanes + h * kPerDouble + e) % K];
+                cv[p][h] = isa::loadA(lanes);
             }
         for (int p = 0; i + kLanes <= n; i += kLanes, p = p + 1 == kPeriod ? 0 : p + 1)
             isa::storeA(d + i, kern.vector(isa::loadU(x + i), cv[p]));

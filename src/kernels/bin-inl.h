@@ -7,7 +7,7 @@
 #include <cstdint>
 #include <type_traits>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "qvnip_types.h"
 
 QVN_TARGET_BEGIN
@@ -30,7 +30,7 @@ inline constexpr BitReverse kBitReverse{};
 // where it is 0.
 template <class D>
 inline void expandBits(const Qvn8u* s, D* d, std::int64_t n, D lo, D hi) {
-    using namespace isa;
+    using namespace v128;  // sixteen pixels a step on every target
     using U8 = std::uint8_t;
     using U16 = std::uint16_t;
     using U32 = std::uint32_t;
@@ -64,7 +64,7 @@ inline void expandBits(const Qvn8u* s, D* d, std::int64_t n, D lo, D hi) {
 // of d; NaN is not greater.
 template <class S>
 inline void packBits(const S* s, Qvn8u* d, std::int64_t n, S threshold) {
-    using namespace isa;
+    using namespace v128;  // sixteen pixels a step on every target
     for (std::int64_t x = 0; x < n; x += 16, d += 2) {
         int mask;  // bit j: pixel x + j
         if constexpr (std::is_same_v<S, float>) {

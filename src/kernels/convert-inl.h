@@ -1,5 +1,5 @@
 // Conversion rows: element-type conversion with saturation, rounding and an
-// optional linear map, sixteen elements per block.
+// optional linear map, a block of as many elements as a vector has bytes.
 //
 // Two operations share one row template:
 //  - IntConvert: integer to integer, exact when widening, saturating when
@@ -20,7 +20,7 @@
 #include <limits>
 #include <type_traits>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/store-inl.h"
 #include "qvnip_types.h"
 
@@ -33,19 +33,19 @@
 QVN_TARGET_BEGIN
 namespace kernels {
 
-inline constexpr std::int64_t kConvertBlock = 16;  // elements per block
+inline constexpr std::int64_t kConvertBlock = isa::kVectorBytes;  // elements per block
 inline constexpr std::int64_t kPrefetchAhead = 1024;  // source bytes read ahead
 
-// Stores v at the 16-byte aligned p; with Keep the lanes set in keep (alpha)
+// Stores v at the vector-aligned p; with Keep the lanes set in keep (alpha)
 // keep the destination's previous value.
 template <bool Keep, class Store, class D>
 QVN_ALWAYS_INLINE void put(D* p, isa::Vec<D> v, isa::Vec<D> keep) {
-    if constexpr (Keep) v = isa::select(keep, isa::loadA(p), v);
-    Store::store(p, v);
+    if constexpr (Keep) isa::storeKeep(p, v, keep);
+    else Store::store(p, v);
 }
 
-// 16 elements of an integer type of up to 16 bits (or 32 bits, taken as they
-// are) as four int32 vectors.
+// A block of an integer type of up to 16 bits (or 32 bits, taken as they are)
+// as four int32 vectors.
 template <class S>
 QVN_ALWAYS_INLINE void loadInt32(const S* s, isa::Vec<std::int32_t>* v) {
     using namespace isa;
@@ -62,17 +62,17 @@ QVN_ALWAYS_INLINE void loadInt32(const S* s, isa::Vec<std::int32_t>* v) {
     } else if constexpr (sizeof(S) == 2) {
         using W = std::conditional_t<std::is_signed_v<S>, std::int32_t, std::uint32_t>;
         for (int k = 0; k < 2; ++k) {
-            const Vec<S> a = loadU(s + 8 * k);
+            const Vec<S> a = loadU(s + kLanes<S> * k);
             v[2 * k] = cast<I32>(widenLo<W>(a));
             v[2 * k + 1] = cast<I32>(widenHi<W>(a));
         }
     } else {
         static_assert(sizeof(S) == 4, "integer source");
-        for (int k = 0; k < 4; ++k) v[k] = cast<I32>(loadU(s + 4 * k));
+        for (int k = 0; k < 4; ++k) v[k] = cast<I32>(loadU(s + kLanes<S> * k));
     }
 }
 
-// Four int32 vectors saturated to D and stored (16 elements).
+// Four int32 vectors saturated to D and stored (one block).
 template <class D, bool Keep, class Store>
 QVN_ALWAYS_INLINE void storeInt32(D* d, const isa::Vec<std::int32_t>* v, isa::Vec<D> keep) {
     using namespace isa;
@@ -81,12 +81,12 @@ QVN_ALWAYS_INLINE void storeInt32(D* d, const isa::Vec<std::int32_t>* v, isa::Ve
         put<Keep, Store>(d, packSat<D>(a, b), keep);
     } else if constexpr (sizeof(D) == 2) {
         put<Keep, Store>(d, packSat<D>(v[0], v[1]), keep);
-        put<Keep, Store>(d + 8, packSat<D>(v[2], v[3]), keep);
+        put<Keep, Store>(d + kLanes<D>, packSat<D>(v[2], v[3]), keep);
     } else if constexpr (std::is_same_v<D, std::uint32_t>) {
         for (int k = 0; k < 4; ++k)
-            put<Keep, Store>(d + 4 * k, cast<D>(max(v[k], zero<std::int32_t>())), keep);
+            put<Keep, Store>(d + kLanes<D> * k, cast<D>(max(v[k], zero<std::int32_t>())), keep);
     } else {
-        for (int k = 0; k < 4; ++k) put<Keep, Store>(d + 4 * k, v[k], keep);
+        for (int k = 0; k < 4; ++k) put<Keep, Store>(d + kLanes<D> * k, v[k], keep);
     }
 }
 
@@ -102,10 +102,10 @@ struct IntConvert {
             using H = std::conditional_t<std::is_signed_v<S>, std::int16_t, std::uint16_t>;
             const Vec<S> a = loadU(s);
             put<Keep, Store>(d, cast<D>(widenLo<H>(a)), keep);
-            put<Keep, Store>(d + 8, cast<D>(widenHi<H>(a)), keep);
+            put<Keep, Store>(d + kLanes<D>, cast<D>(widenHi<H>(a)), keep);
         } else if constexpr (sizeof(S) == 2 && std::is_same_v<D, std::uint8_t>) {
             // 16s8u, 16u8u: one saturating pack (16u first limited to 255)
-            Vec<std::int16_t> a = cast<std::int16_t>(loadU(s)), b = cast<std::int16_t>(loadU(s + 8));
+            Vec<std::int16_t> a = cast<std::int16_t>(loadU(s)), b = cast<std::int16_t>(loadU(s + kLanes<S>));
             if constexpr (!std::is_signed_v<S>) {
                 const Vec<std::uint16_t> top = set1<std::uint16_t>(255);
                 a = cast<std::int16_t>(min(cast<std::uint16_t>(a), top));
@@ -126,7 +126,7 @@ struct IntConvert {
     }
 };
 
-// 16 elements of S as float (4 vectors) or double (8 vectors) lanes. Exact,
+// A block of S as float (4 vectors) or double (8 vectors) lanes. Exact,
 // except 32s and 32u into float, which round by the rounding control.
 template <class S, class W>
 QVN_ALWAYS_INLINE void loadWide(const S* s, isa::Vec<W>* w) {
@@ -136,7 +136,7 @@ QVN_ALWAYS_INLINE void loadWide(const S* s, isa::Vec<W>* w) {
         for (int k = 0; k < kN; ++k) w[k] = loadU(s + k * kLanes<W>);
     } else if constexpr (std::is_same_v<S, float>) {
         for (int k = 0; k < 4; ++k) {
-            const Vec<float> f = loadU(s + 4 * k);
+            const Vec<float> f = loadU(s + kLanes<float> * k);
             w[2 * k] = toDoubleLo(f);
             w[2 * k + 1] = toDoubleHi(f);
         }
@@ -144,14 +144,15 @@ QVN_ALWAYS_INLINE void loadWide(const S* s, isa::Vec<W>* w) {
         // biased into the signed range, converted, unbiased (all exact)
         const Vec<double> bias = set1(2147483648.0);
         for (int k = 0; k < 4; ++k) {
-            const Vec<std::int32_t> i = cast<std::int32_t>(bitXor(loadU(s + 4 * k), set1<std::uint32_t>(0x80000000u)));
+            const Vec<std::int32_t> i =
+                cast<std::int32_t>(bitXor(loadU(s + kLanes<S> * k), set1<std::uint32_t>(0x80000000u)));
             w[2 * k] = add(toDoubleLo(i), bias);
-            w[2 * k + 1] = add(toDoubleLo(bytesRight<8>(i)), bias);
+            w[2 * k + 1] = add(toDoubleHi(i), bias);
         }
     } else if constexpr (std::is_same_v<S, std::uint32_t>) {
         // high and low 16 bits converted exactly, one rounding in the sum
         for (int k = 0; k < 4; ++k) {
-            const Vec<std::uint32_t> u = loadU(s + 4 * k);
+            const Vec<std::uint32_t> u = loadU(s + kLanes<S> * k);
             const Vec<float> hi = toFloat(cast<std::int32_t>(shiftRight<16>(u)));
             const Vec<float> lo = toFloat(cast<std::int32_t>(bitAnd(u, set1<std::uint32_t>(0xFFFFu))));
             w[k] = add(mul(hi, set1(65536.0f)), lo);
@@ -164,14 +165,14 @@ QVN_ALWAYS_INLINE void loadWide(const S* s, isa::Vec<W>* w) {
                 w[k] = toFloat(v[k]);
             } else {
                 w[2 * k] = toDoubleLo(v[k]);
-                w[2 * k + 1] = toDoubleLo(bytesRight<8>(v[k]));
+                w[2 * k + 1] = toDoubleHi(v[k]);
             }
         }
     }
 }
 
-// 16 lanes of W stored as D. Integer destinations expect lanes already clamped
-// to their range; the conversion rounds by the rounding control.
+// A block of W lanes stored as D. Integer destinations expect lanes already
+// clamped to their range; the conversion rounds by the rounding control.
 template <class D, bool Keep, class Store, class W>
 QVN_ALWAYS_INLINE void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
     using namespace isa;
@@ -179,14 +180,14 @@ QVN_ALWAYS_INLINE void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
     if constexpr (std::is_same_v<D, W>) {
         for (int k = 0; k < kN; ++k) put<Keep, Store>(d + k * kLanes<W>, w[k], keep);
     } else if constexpr (std::is_same_v<D, float>) {
-        for (int k = 0; k < 4; ++k) put<Keep, Store>(d + 4 * k, toFloat(w[2 * k], w[2 * k + 1]), keep);
+        for (int k = 0; k < 4; ++k) put<Keep, Store>(d + kLanes<D> * k, toFloat(w[2 * k], w[2 * k + 1]), keep);
     } else if constexpr (std::is_same_v<D, std::uint32_t>) {
         static_assert(std::is_same_v<W, double>, "32u results go through double");
         // Adding 2^52 rounds a value in 0..2^32-1 to an integer (by the
         // rounding control) and leaves that integer in the low mantissa bits.
         const Vec<double> magic = set1(4503599627370496.0);
         for (int k = 0; k < 4; ++k)
-            put<Keep, Store>(d + 4 * k, lowHalves(add(w[2 * k], magic), add(w[2 * k + 1], magic)), keep);
+            put<Keep, Store>(d + kLanes<D> * k, lowHalves(add(w[2 * k], magic), add(w[2 * k + 1], magic)), keep);
     } else {
         Vec<std::int32_t> v[4];
         for (int k = 0; k < 4; ++k) {
@@ -198,7 +199,7 @@ QVN_ALWAYS_INLINE void storeWide(D* d, const isa::Vec<W>* w, isa::Vec<D> keep) {
             const Vec<std::int32_t> bias = set1<std::int32_t>(32768);
             for (int k = 0; k < 2; ++k) {
                 const Vec<std::int16_t> p = packSat<std::int16_t>(sub(v[2 * k], bias), sub(v[2 * k + 1], bias));
-                put<Keep, Store>(d + 8 * k, cast<D>(bitXor(p, set1<std::int16_t>(-32768))), keep);
+                put<Keep, Store>(d + kLanes<D> * k, cast<D>(bitXor(p, set1<std::int16_t>(-32768))), keep);
             }
         } else {
             storeInt32<D, Keep, Store>(d, v, keep);
@@ -268,7 +269,7 @@ struct FloatConvert {
                 v[k] = toInt(w[k]);
                 unusual = bitOr(unusual, cmpNotLess(w[k], set1(2147483648.0f)));
             }
-            if (__builtin_expect(moveMask(unusual) == 0, 1)) {
+            if (__builtin_expect(!anyTrue(unusual), 1)) {
                 storeInt32<D, Keep, Store>(d, v, keep);
                 return;
             }
@@ -328,7 +329,7 @@ struct MulAddToInt {
             // the largest distance of the block's lanes to their integers
             Vec<float> far = zero<float>();
             for (int k = 0; k < 4; ++k) far = max(far, andNot(set1(-0.0f), sub(w[k], toFloat(v[k]))));
-            if (__builtin_expect(moveMask(cmpGt(far, limit)) != 0, 0)) {
+            if (__builtin_expect(anyTrue(cmpGt(far, limit)), 0)) {
                 exact.template block<Keep, Store>(s, d, keep);
                 return;
             }
@@ -373,18 +374,18 @@ struct SplitMulAdd {
 // the vector starts at row element start.
 template <class D>
 inline isa::Vec<D> alphaMask(std::int64_t start) {
-    alignas(16) D m[isa::kLanes<D>];
+    alignas(isa::kVectorBytes) D m[isa::kLanes<D>];
     for (std::size_t j = 0; j < isa::kLanes<D>; ++j)
         std::memset(&m[j], (start + std::int64_t(j)) % 4 == 3 ? 0xFF : 0, sizeof(D));
     return isa::loadA(m);
 }
 
-// Elements i..i+cnt-1 (cnt <= 16) through a staged block: unaligned heads,
+// Elements i..i+cnt-1 (cnt <= kConvertBlock) through a staged block: unaligned heads,
 // tails and destinations that are not even element-aligned.
 template <bool Keep, class Op, class S, class D>
 inline void convertStaged(const Op& op, const S* s, D* d, std::int64_t i, std::int64_t cnt) {
-    alignas(16) S ts[kConvertBlock] = {};
-    alignas(16) D td[kConvertBlock];
+    alignas(isa::kVectorBytes) S ts[kConvertBlock] = {};
+    alignas(isa::kVectorBytes) D td[kConvertBlock];
     std::memcpy(ts, s + i, std::size_t(cnt) * sizeof(S));
     op.template block<false, StoreRegular>(ts, td, isa::zero<D>());
     char* out = reinterpret_cast<char*>(d) + i * std::int64_t(sizeof(D));
@@ -396,12 +397,12 @@ inline void convertStaged(const Op& op, const S* s, D* d, std::int64_t i, std::i
     }
 }
 
-// Converts n elements of a row: staged head until the destination is 16-byte
-// aligned, whole blocks, staged tail. Keep leaves every fourth element (AC4
+// Converts n elements of a row: staged head until the destination is
+// vector-aligned, whole blocks, staged tail. Keep leaves every fourth element (AC4
 // alpha) as it was.
 template <bool Keep, class Store, class Op, class S, class D>
 inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
-    std::int64_t head = headToAlign16(d, n);
+    std::int64_t head = headToAlign(d, n);
     if (head < 0) head = n;  // not element-aligned: stage everything
     std::int64_t i = 0;
     for (; i < head; i += kConvertBlock)
@@ -409,8 +410,10 @@ inline void convertRow(const Op& op, const S* s, D* d, std::int64_t n) {
     i = head;
     const isa::Vec<D> keep = Keep ? alphaMask<D>(head) : isa::zero<D>();
     for (; i + kConvertBlock <= n; i += kConvertBlock) {
-        // one hint per cache line: blocks of 4-byte and wider sources span one
-        if constexpr (sizeof(S) >= 4) isa::prefetch(s + i + kPrefetchAhead / sizeof(S));
+        // one hint per cache line of 4-byte and wider sources
+        if constexpr (sizeof(S) >= 4)
+            for (std::int64_t b = 0; b < kConvertBlock * std::int64_t(sizeof(S)); b += 64)
+                isa::prefetch(reinterpret_cast<const char*>(s + i) + kPrefetchAhead + b);
         op.template block<Keep, Store>(s + i, d + i, keep);
     }
     if (i < n) convertStaged<Keep>(op, s, d, i, n - i);

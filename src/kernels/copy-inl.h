@@ -6,37 +6,36 @@
 #include <cstdint>
 #include <cstring>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/store-inl.h"
 
 QVN_TARGET_BEGIN
 namespace kernels {
 
-// Fewer than 16 bytes, in pieces of 8, 4, 2 and 1.
+// Fewer than a vector's bytes, in pieces of halving size.
 inline void copyTail(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
-    if (n & 8) std::memcpy(d, s, 8), s += 8, d += 8;
-    if (n & 4) std::memcpy(d, s, 4), s += 4, d += 4;
-    if (n & 2) std::memcpy(d, s, 2), s += 2, d += 2;
-    if (n & 1) *d = *s;
+    for (std::int64_t piece = isa::kVectorBytes / 2; piece > 0; piece /= 2)
+        if (n & piece) std::memcpy(d, s, std::size_t(piece)), s += piece, d += piece;
 }
 
-// Copies n bytes: a head up to the first 16-byte aligned destination byte,
+// Copies n bytes: a head up to the first vector-aligned destination byte,
 // then four vectors per step, then one, then the tail. Every element type
 // copies through this one kernel.
 template <class Store>
 inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     using V = isa::Vec<std::uint8_t>;
-    std::int64_t i = headToAlign16(d, n);
+    constexpr std::int64_t kV = isa::kVectorBytes;
+    std::int64_t i = headToAlign(d, n);
     copyTail(s, d, i);
-    for (; i + 64 <= n; i += 64) {
-        const V a = isa::loadU(s + i), b = isa::loadU(s + i + 16), c = isa::loadU(s + i + 32),
-                e = isa::loadU(s + i + 48);
+    for (; i + 4 * kV <= n; i += 4 * kV) {
+        const V a = isa::loadU(s + i), b = isa::loadU(s + i + kV), c = isa::loadU(s + i + 2 * kV),
+                e = isa::loadU(s + i + 3 * kV);
         Store::store(d + i, a);
-        Store::store(d + i + 16, b);
-        Store::store(d + i + 32, c);
-        Store::store(d + i + 48, e);
+        Store::store(d + i + kV, b);
+        Store::store(d + i + 2 * kV, c);
+        Store::store(d + i + 3 * kV, e);
     }
-    for (; i + 16 <= n; i += 16) Store::store(d + i, isa::loadU(s + i));
+    for (; i + kV <= n; i += kV) Store::store(d + i, isa::loadU(s + i));
     copyTail(s + i, d + i, n - i);
 }
 
@@ -59,7 +58,7 @@ struct FromPixel {
     void prepare(std::int64_t first) {
         constexpr std::int64_t kLanes = isa::kLanes<T>;
         for (int k = 0; k < (K == 3 ? 3 : 1); ++k) {
-            alignas(16) T lane[kLanes];
+            alignas(isa::kVectorBytes) T lane[kLanes];
             for (std::int64_t e = 0; e < kLanes; ++e) lane[e] = px[(first + k * kLanes + e) % K];
             v[k] = isa::loadA(lane);
         }
@@ -75,7 +74,7 @@ template <class T, int K>
 inline void channelLanes(std::int64_t first, unsigned chans, isa::Vec<T> out[3]) {
     constexpr std::int64_t kLanes = isa::kLanes<T>;
     for (int k = 0; k < (K == 3 ? 3 : 1); ++k) {
-        alignas(16) unsigned char b[16];
+        alignas(isa::kVectorBytes) unsigned char b[isa::kVectorBytes];
         for (std::int64_t e = 0; e < kLanes; ++e)
             std::memset(b + e * sizeof(T), (chans >> ((first + k * kLanes + e) % K)) & 1u ? 0xFF : 0,
                         sizeof(T));
@@ -84,34 +83,35 @@ inline void channelLanes(std::int64_t first, unsigned chans, isa::Vec<T> out[3])
 }
 
 // Writes the elements of d[0..total) whose channel (index mod K) is in the bit
-// set Write from src; the other elements keep their values. The body blends
-// each aligned vector with the destination's own contents. total need not be
-// a whole number of pixels: a row addressed at one channel of its first pixel
-// ends at that channel of its last pixel.
+// set Write from src; the other elements keep their values (the vector body
+// stores whole vectors with those lanes kept, see isa::storeKeep). total need
+// not be a whole number of pixels: a row addressed at one channel of its first
+// pixel ends at that channel of its last pixel.
 template <class T, int K, unsigned Write, class Src>
 inline void blendRow(Src src, T* d, std::int64_t total) {
     constexpr std::int64_t kLanes = isa::kLanes<T>;
     constexpr int kPeriod = K == 3 ? 3 : 1;
+    constexpr unsigned kKeep = ~Write & ((1u << K) - 1);
     const auto one = [&](std::int64_t i) {
         if ((Write >> (i % K)) & 1u) d[i] = src.at(i);
     };
-    std::int64_t head = headToAlign16(d, total);
+    std::int64_t head = headToAlign(d, total);
     if (head < 0) head = total;  // not element-aligned: scalar only
     std::int64_t i = 0;
     for (; i < head; ++i) one(i);
     if (i + kLanes <= total) {
-        isa::Vec<T> write[3];
-        channelLanes<T, K>(i, Write, write);
+        isa::Vec<T> keep[3];
+        channelLanes<T, K>(i, kKeep, keep);
         src.prepare(i);
         for (int k = 0; i + kLanes <= total; i += kLanes, k = k + 1 == kPeriod ? 0 : k + 1)
-            isa::storeA(d + i, isa::select(write[k], src.vec(i, k), isa::loadA(d + i)));
+            isa::storeKeep(d + i, src.vec(i, k), keep[k]);
     }
     for (; i < total; ++i) one(i);
 }
 
 // Masks of Factor vectors whose lanes repeat each byte lane of m Factor times
-// (Factor a power of two up to 16), so lane j of vector v follows byte
-// (v * 16 + j) / Factor of m.
+// (Factor a power of two up to 16), so byte j of vector v follows byte
+// (v * kVectorBytes + j) / Factor of m.
 template <int Factor>
 inline void spreadMask(isa::Vec<std::uint8_t> m, isa::Vec<std::uint8_t> out[Factor]) {
     if constexpr (Factor == 1) {
@@ -128,15 +128,17 @@ inline void spreadMask(isa::Vec<std::uint8_t> m, isa::Vec<std::uint8_t> out[Fact
 
 // Masked row: pixel x of n (K elements each) takes its channels from src where
 // mask[x] is non-zero and keeps them where it is zero; with Keep the last
-// channel (alpha) is never written. The mask is read in blocks of sixteen: an
-// all-zero block writes nothing, an all-set block is written whole, a mixed
-// block blends per element; the last pixels of the row go one by one.
+// channel (alpha) is never written. The mask is read a vector at a time (a
+// block of as many pixels as the vector has bytes): an all-zero block writes
+// nothing, an all-set block is written whole, a mixed block keeps the lanes of
+// the unselected pixels; the last pixels of the row go one by one.
 template <class T, int K, bool Keep, class Src>
 inline void maskedRow(Src src, T* d, const std::uint8_t* m, std::int64_t n) {
     using V = isa::Vec<T>;
     constexpr std::int64_t kLanes = isa::kLanes<T>;
+    constexpr std::int64_t kBlock = isa::kLanes<std::uint8_t>;  // pixels per mask vector
     constexpr int kPeriod = K == 3 ? 3 : 1;
-    constexpr int kVecs = K * int(sizeof(T));       // vectors per block of 16 pixels
+    constexpr int kVecs = K * int(sizeof(T));       // vectors per block
     constexpr bool kSpread = (kVecs & (kVecs - 1)) == 0;  // byte mask spreads by zips
     constexpr unsigned kWrite = Keep ? (1u << (K - 1)) - 1 : (1u << K) - 1;
     const auto pixel = [&](std::int64_t x) {
@@ -145,35 +147,32 @@ inline void maskedRow(Src src, T* d, const std::uint8_t* m, std::int64_t n) {
             if ((kWrite >> c) & 1u) d[x * K + c] = src.at(x * K + c);
     };
     std::int64_t x = 0;
-    if (n >= 16) {
+    if (n >= kBlock) {
         src.prepare(0);
-        V write[3];
-        channelLanes<T, K>(0, kWrite, write);
+        V alpha[3];
+        channelLanes<T, K>(0, ~kWrite & ((1u << K) - 1), alpha);
         const isa::Vec<std::uint8_t> zero = isa::zero<std::uint8_t>();
-        for (; x + 16 <= n; x += 16) {
+        for (; x + kBlock <= n; x += kBlock) {
             const isa::Vec<std::uint8_t> isZero = isa::cmpEq(isa::loadU(m + x), zero);
-            const int bits = isa::moveMask8(isZero);
-            if (bits == 0xFFFF) continue;
+            if (isa::allTrue(isZero)) continue;
             const std::int64_t e0 = x * K;
-            if (bits == 0) {
+            if (!isa::anyTrue(isZero)) {
                 for (int j = 0; j < kVecs; ++j) {
                     T* p = d + e0 + j * kLanes;
-                    V v = src.vec(e0 + j * kLanes, j % kPeriod);
-                    if constexpr (Keep) v = isa::select(write[0], v, isa::loadU(p));
-                    isa::storeU(p, v);
+                    const V v = src.vec(e0 + j * kLanes, j % kPeriod);
+                    if constexpr (Keep) isa::storeKeep(p, v, alpha[0]);
+                    else isa::storeU(p, v);
                 }
             } else if constexpr (kSpread) {
                 isa::Vec<std::uint8_t> spread[kVecs];  // all ones where the pixel's mask is 0
                 spreadMask<kVecs>(isZero, spread);
                 for (int j = 0; j < kVecs; ++j) {
-                    T* p = d + e0 + j * kLanes;
-                    const V old = isa::loadU(p);
-                    V v = isa::select(isa::cast<T>(spread[j]), old, src.vec(e0 + j * kLanes, 0));
-                    if constexpr (Keep) v = isa::select(write[0], v, old);
-                    isa::storeU(p, v);
+                    V keep = isa::cast<T>(spread[j]);
+                    if constexpr (Keep) keep = isa::bitOr(keep, alpha[0]);
+                    isa::storeKeep(d + e0 + j * kLanes, src.vec(e0 + j * kLanes, 0), keep);
                 }
             } else {
-                for (std::int64_t k = 0; k < 16; ++k) pixel(x + k);
+                for (std::int64_t k = 0; k < kBlock; ++k) pixel(x + k);
             }
         }
     }

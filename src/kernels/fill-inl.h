@@ -4,7 +4,7 @@
 
 #include <cstdint>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/store-inl.h"
 
 QVN_TARGET_BEGIN
@@ -13,15 +13,16 @@ namespace kernels {
 // Writes n pixels of K elements each, pixel k = px[0..K-1]. When Keep is true
 // the last element of every pixel (alpha) is left as it is.
 //
-// The K-element pattern repeats every 48 bytes for K = 3 and every 16 bytes for
-// K = 1, 2, 4, so the body stores a fixed set of up to three vectors built
-// once per row for the element phase at which the aligned part starts.
+// The K-element pattern repeats every three vectors for K = 3 and every vector
+// for K = 1, 2, 4, so the body stores a fixed set of up to three vectors built
+// once per row for the element phase at which the aligned part starts. With
+// Keep the vectors are stored with the alpha lanes kept (isa::storeKeep).
 template <class T, int K, bool Keep, class Store>
 inline void fillRow(T* d, std::int64_t n, const T* px) {
     constexpr std::int64_t kLanes = isa::kLanes<T>;
     constexpr int kPeriod = K == 3 ? 3 : 1;  // vectors before the pattern repeats
     const std::int64_t total = n * K;
-    std::int64_t head = headToAlign16(d, total);
+    std::int64_t head = headToAlign(d, total);
     if (head < 0) {  // not element-aligned: scalar only (never from our own images)
         for (std::int64_t i = 0; i < total; ++i)
             if (!Keep || i % K != K - 1) d[i] = px[i % K];
@@ -33,7 +34,7 @@ inline void fillRow(T* d, std::int64_t n, const T* px) {
 
     isa::Vec<T> v[kPeriod], keep[kPeriod];
     for (int k = 0; k < kPeriod; ++k) {
-        alignas(16) T lane[kLanes], mask[kLanes];
+        alignas(isa::kVectorBytes) T lane[kLanes], mask[kLanes];
         for (std::int64_t e = 0; e < kLanes; ++e) {
             const std::int64_t idx = (i + k * kLanes + e) % K;
             lane[e] = Keep && idx == K - 1 ? T() : px[idx];  // an AC4 value has three elements
@@ -47,11 +48,11 @@ inline void fillRow(T* d, std::int64_t n, const T* px) {
     for (; i + kPeriod * kLanes <= total; i += kPeriod * kLanes)
         for (int k = 0; k < kPeriod; ++k) {
             T* p = d + i + k * kLanes;
-            if constexpr (Keep) Store::store(p, isa::select(keep[k], isa::loadA(p), v[k]));
+            if constexpr (Keep) isa::storeKeep(p, v[k], keep[k]);
             else Store::store(p, v[k]);
         }
     for (int k = 0; i + kLanes <= total; ++k, i += kLanes) {  // whole vectors left in the period
-        if constexpr (Keep) Store::store(d + i, isa::select(keep[k], isa::loadA(d + i), v[k]));
+        if constexpr (Keep) isa::storeKeep(d + i, v[k], keep[k]);
         else Store::store(d + i, v[k]);
     }
     for (; i < total; ++i)

@@ -6,7 +6,7 @@
 #include <cstdint>
 #include <cstring>
 
-#include "kernels/isa/sse3.h"
+#include "kernels/isa/isa.h"
 #include "kernels/copy-inl.h"
 
 QVN_TARGET_BEGIN
@@ -58,9 +58,9 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
     };
     const std::int64_t vecEnd = n - (map.addressedChannel ? 1 : 0);
     std::int64_t x = 0;
-    // head: pixels until the destination is 16-byte aligned, when a pixel
+    // head: pixels until the destination is vector-aligned, when a pixel
     // boundary ever is
-    while (x < kLanes && x < n && !isa::aligned16(d + x * KD)) ++x;
+    while (x < kLanes && x < n && !isa::alignedV(d + x * KD)) ++x;
     if (x == kLanes || x == n) x = 0;
     for (std::int64_t h = 0; h < x; ++h) pixel(h);
     if (x + kLanes <= vecEnd) {
@@ -76,9 +76,8 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
             toPixelVecs<KD>(out, px);
             for (int k = 0; k < KD; ++k) {
                 T* p = d + x * KD + k * kLanes;
-                V v = px[k];
-                if (map.keep) v = isa::select(keep[KD == 3 ? k : 0], isa::loadU(p), v);
-                isa::storeU(p, v);
+                if (map.keep) isa::storeKeep(p, px[k], keep[KD == 3 ? k : 0]);
+                else isa::storeU(p, px[k]);
             }
         }
     }
@@ -87,9 +86,9 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
 
 // Vector body of permuteRow with N distinct offsets: element e of the
 // destination is the OR of the source row loaded at e + offsets[j] and masked
-// to the lanes that take offset j (and of the destination itself masked to
-// the kept lanes when Keep). Runs whole periods of the channel pattern from
-// i while they end by end; returns where it stopped.
+// to the lanes that take offset j; with Keep the kept lanes are not stored
+// (isa::storeKeep). Runs whole periods of the channel pattern from i while
+// they end by end; returns where it stopped.
 template <class T, int K, int N, bool Keep>
 inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t end, const int* offsets,
                                 const isa::Vec<T> (*lanes)[3], const isa::Vec<T>* keep) {
@@ -108,8 +107,8 @@ inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t e
             const std::int64_t e = i + k * kLanes;
             V v = isa::bitAnd(mask[0][k], isa::loadU(from[0] + e));
             for (int j = 1; j < N; ++j) v = isa::bitOr(v, isa::bitAnd(mask[j][k], isa::loadU(from[j] + e)));
-            if constexpr (Keep) v = isa::bitOr(v, isa::bitAnd(kept[k], isa::loadA(d + e)));
-            isa::storeA(d + e, v);
+            if constexpr (Keep) isa::storeKeep(d + e, v, kept[k]);
+            else isa::storeA(d + e, v);
         }
     return i;
 }
@@ -131,7 +130,7 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
         if (!((map.keep >> c) & 1u)) d[i] = s[i - c + map.from[c]];
     };
     // vector body only where every offset load stays inside the row
-    std::int64_t i = headToAlign16(d, total);
+    std::int64_t i = headToAlign(d, total);
     if (i < 0) i = total;
     if (i < K) i += (K - i + kLanes - 1) / kLanes * kLanes;  // whole vectors keep the alignment
     const std::int64_t end = total - K;
@@ -169,14 +168,15 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
     for (; i < total; ++i) one(i);
 }
 
-// Elements before every pointer of ps reaches 16-byte alignment at the same
-// element, at most n; -1 when they never do together.
-template <class T, int K>
+// Elements before every pointer of ps reaches kAlign-byte alignment (a
+// vector's, or 16) at the same element, at most n; -1 when they never do
+// together.
+template <class T, int K, std::size_t kAlign = isa::kVectorBytes>
 inline std::int64_t commonHead(T* const ps[K], std::int64_t n) {
     const auto a = reinterpret_cast<std::uintptr_t>(ps[0]);
     for (int c = 1; c < K; ++c)
-        if (reinterpret_cast<std::uintptr_t>(ps[c]) % 16 != a % 16) return -1;
-    return headToAlign16(ps[0], n);
+        if (reinterpret_cast<std::uintptr_t>(ps[c]) % kAlign != a % kAlign) return -1;
+    return kAlign == 16 ? headToAlign16(ps[0], n) : headToAlign(ps[0], n);
 }
 
 // n interleaved pixels of K elements to K planes. With aligned planes the
@@ -226,7 +226,7 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
         return x;
     };
     std::int64_t x = 0;
-    while (x < kLanes && x < n && !isa::aligned16(d + x * K)) ++x;
+    while (x < kLanes && x < n && !isa::alignedV(d + x * K)) ++x;
     if (x == kLanes || x == n) {
         x = body(0, [](T* p, V v) { isa::storeU(p, v); });
     } else {
@@ -237,7 +237,8 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
 }
 
 // ---- 8u rows that write three-element pixels ---------------------------------
-// SSE2 has no byte shuffle, so these build the 3-byte pixels from 4-byte ones:
+// Written for 16-byte vectors on every target (v128). SSE2 has no byte
+// shuffle, so these build the 3-byte pixels from 4-byte ones:
 // packPairs4to3 turns each 64-bit lane (two 4-byte pixels) into 6 bytes, and
 // two 8-byte stores write the lanes 6 bytes apart. The 2 leftover bytes of
 // each store land on the next pixel, which a later store (or the scalar tail)
@@ -245,10 +246,10 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
 // the row.
 
 // Four 4-byte pixels (x) as 12 bytes at d; writes d[0..14).
-inline void storePacked3(std::uint8_t* d, isa::Vec<std::uint8_t> x) {
-    const isa::Vec<std::uint8_t> v = isa::packPairs4to3(x);
-    isa::storeLow(d, v);
-    isa::storeHigh(d + 6, v);
+inline void storePacked3(std::uint8_t* d, v128::Vec<std::uint8_t> x) {
+    const v128::Vec<std::uint8_t> v = v128::packPairs4to3(x);
+    v128::storeLow(d, v);
+    v128::storeHigh(d + 6, v);
 }
 
 // The first three bytes of each 4-byte source pixel (AC4C3, and C4C3 in
@@ -256,8 +257,8 @@ inline void storePacked3(std::uint8_t* d, isa::Vec<std::uint8_t> x) {
 inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     std::int64_t x = 0;
     for (; x + 17 <= n; x += 16)  // four groups per step: less loop overhead per store
-        for (int k = 0; k < 4; ++k) storePacked3(d + 3 * x + 12 * k, isa::loadU(s + 4 * x + 16 * k));
-    for (; x + 5 <= n; x += 4) storePacked3(d + 3 * x, isa::loadU(s + 4 * x));
+        for (int k = 0; k < 4; ++k) storePacked3(d + 3 * x + 12 * k, v128::loadU(s + 4 * x + 16 * k));
+    for (; x + 5 <= n; x += 4) storePacked3(d + 3 * x, v128::loadU(s + 4 * x));
     for (; x < n; ++x) d[3 * x] = s[4 * x], d[3 * x + 1] = s[4 * x + 1], d[3 * x + 2] = s[4 * x + 2];
 }
 
@@ -265,17 +266,17 @@ inline void dropFourthRow(const std::uint8_t* s, std::uint8_t* d, std::int64_t n
 // spread to four bytes; a 64-bit lane of two such pixels shifted down by one
 // byte holds the first value three times, then the second three times.
 inline void dup3Row(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
-    using V = isa::Vec<std::uint8_t>;
-    using W = isa::Vec<std::uint16_t>;
+    using V = v128::Vec<std::uint8_t>;
+    using W = v128::Vec<std::uint16_t>;
     std::int64_t x = 0;
     for (; x + 17 <= n; x += 16) {
-        const V g = isa::loadU(s + x);
-        const W lo = isa::cast<std::uint16_t>(isa::zipLo(g, g)), hi = isa::cast<std::uint16_t>(isa::zipHi(g, g));
-        const W quad[4] = {isa::zipLo(lo, lo), isa::zipHi(lo, lo), isa::zipLo(hi, hi), isa::zipHi(hi, hi)};
+        const V g = v128::loadU(s + x);
+        const W lo = v128::cast<std::uint16_t>(v128::zipLo(g, g)), hi = v128::cast<std::uint16_t>(v128::zipHi(g, g));
+        const W quad[4] = {v128::zipLo(lo, lo), v128::zipHi(lo, lo), v128::zipLo(hi, hi), v128::zipHi(hi, hi)};
         for (int k = 0; k < 4; ++k) {
-            const V v = isa::cast<std::uint8_t>(isa::shiftRight<8>(isa::cast<std::uint64_t>(quad[k])));
-            isa::storeLow(d + 3 * x + 12 * k, v);
-            isa::storeHigh(d + 3 * x + 12 * k + 6, v);
+            const V v = v128::cast<std::uint8_t>(v128::shiftRight<8>(v128::cast<std::uint64_t>(quad[k])));
+            v128::storeLow(d + 3 * x + 12 * k, v);
+            v128::storeHigh(d + 3 * x + 12 * k + 6, v);
         }
     }
     for (; x < n; ++x) d[3 * x] = d[3 * x + 1] = d[3 * x + 2] = s[x];
@@ -286,27 +287,27 @@ inline void dup3Row(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
 // 16-bit lanes, and two rounds of word zips put the three words of pair k
 // into 64-bit lane k (the fourth word is left over and overwritten).
 inline void merge3Row(const std::uint8_t* const s[3], std::uint8_t* d, std::int64_t n) {
-    using V = isa::Vec<std::uint8_t>;
-    using W = isa::Vec<std::uint16_t>;
-    using D = isa::Vec<std::uint32_t>;
-    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
+    using V = v128::Vec<std::uint8_t>;
+    using W = v128::Vec<std::uint16_t>;
+    using D = v128::Vec<std::uint32_t>;
+    const W low = v128::set1<std::uint16_t>(0x00FF), high = v128::set1<std::uint16_t>(0xFF00);
     std::int64_t x = 0;
     for (; x + 17 <= n; x += 16) {
-        const W r = isa::cast<std::uint16_t>(isa::loadU(s[0] + x)), g = isa::cast<std::uint16_t>(isa::loadU(s[1] + x)),
-                b = isa::cast<std::uint16_t>(isa::loadU(s[2] + x));
-        const W rg = isa::bitOr(isa::bitAnd(r, low), isa::shiftLeft<8>(g));   // r even, g even
-        const W br = isa::bitOr(isa::bitAnd(b, low), isa::bitAnd(r, high));   // b even, r odd
-        const W gb = isa::bitOr(isa::shiftRight<8>(g), isa::bitAnd(b, high)); // g odd, b odd
-        const D first[2] = {isa::cast<std::uint32_t>(isa::zipLo(rg, br)), isa::cast<std::uint32_t>(isa::zipHi(rg, br))};
-        const D third[2] = {isa::cast<std::uint32_t>(isa::zipLo(gb, gb)), isa::cast<std::uint32_t>(isa::zipHi(gb, gb))};
+        const W r = v128::cast<std::uint16_t>(v128::loadU(s[0] + x)), g = v128::cast<std::uint16_t>(v128::loadU(s[1] + x)),
+                b = v128::cast<std::uint16_t>(v128::loadU(s[2] + x));
+        const W rg = v128::bitOr(v128::bitAnd(r, low), v128::shiftLeft<8>(g));   // r even, g even
+        const W br = v128::bitOr(v128::bitAnd(b, low), v128::bitAnd(r, high));   // b even, r odd
+        const W gb = v128::bitOr(v128::shiftRight<8>(g), v128::bitAnd(b, high)); // g odd, b odd
+        const D first[2] = {v128::cast<std::uint32_t>(v128::zipLo(rg, br)), v128::cast<std::uint32_t>(v128::zipHi(rg, br))};
+        const D third[2] = {v128::cast<std::uint32_t>(v128::zipLo(gb, gb)), v128::cast<std::uint32_t>(v128::zipHi(gb, gb))};
         for (int h = 0; h < 2; ++h) {
-            const V a = isa::cast<std::uint8_t>(isa::zipLo(first[h], third[h]));
-            const V c = isa::cast<std::uint8_t>(isa::zipHi(first[h], third[h]));
+            const V a = v128::cast<std::uint8_t>(v128::zipLo(first[h], third[h]));
+            const V c = v128::cast<std::uint8_t>(v128::zipHi(first[h], third[h]));
             std::uint8_t* p = d + 3 * x + 24 * h;
-            isa::storeLow(p, a);
-            isa::storeHigh(p + 6, a);
-            isa::storeLow(p + 12, c);
-            isa::storeHigh(p + 18, c);
+            v128::storeLow(p, a);
+            v128::storeHigh(p + 6, a);
+            v128::storeLow(p + 12, c);
+            v128::storeHigh(p + 18, c);
         }
     }
     for (; x < n; ++x) d[3 * x] = s[0][x], d[3 * x + 1] = s[1][x], d[3 * x + 2] = s[2][x];
@@ -318,32 +319,32 @@ inline void merge3Row(const std::uint8_t* const s[3], std::uint8_t* d, std::int6
 // pairs, and AND/OR of their bytes gives the planes.
 template <class Store>
 inline void split3Row(const std::uint8_t* s, std::uint8_t* const d[3], std::int64_t n) {
-    using W = isa::Vec<std::uint16_t>;
-    const W low = isa::set1<std::uint16_t>(0x00FF), high = isa::set1<std::uint16_t>(0xFF00);
+    using W = v128::Vec<std::uint16_t>;
+    const W low = v128::set1<std::uint16_t>(0x00FF), high = v128::set1<std::uint16_t>(0xFF00);
     const auto pixel = [&](std::int64_t x) {
         d[0][x] = s[3 * x], d[1][x] = s[3 * x + 1], d[2][x] = s[3 * x + 2];
     };
     const auto body = [&](std::int64_t x, auto store) {
         for (; x + 17 <= n; x += 16) {
             const std::uint8_t* p = s + 3 * x;
-            const W in[4] = {isa::cast<std::uint16_t>(isa::loadHalves(p, p + 6)),
-                             isa::cast<std::uint16_t>(isa::loadHalves(p + 12, p + 18)),
-                             isa::cast<std::uint16_t>(isa::loadHalves(p + 24, p + 30)),
-                             isa::cast<std::uint16_t>(isa::loadHalves(p + 36, p + 42))};
+            const W in[4] = {v128::cast<std::uint16_t>(v128::loadHalves(p, p + 6)),
+                             v128::cast<std::uint16_t>(v128::loadHalves(p + 12, p + 18)),
+                             v128::cast<std::uint16_t>(v128::loadHalves(p + 24, p + 30)),
+                             v128::cast<std::uint16_t>(v128::loadHalves(p + 36, p + 42))};
             W words[4];
-            isa::deinterleave4(in, words);
-            store(d[0] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[0], low), isa::bitAnd(words[1], high))));
-            store(d[1] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::shiftRight<8>(words[0]), isa::shiftLeft<8>(words[2]))));
-            store(d[2] + x, isa::cast<std::uint8_t>(isa::bitOr(isa::bitAnd(words[1], low), isa::bitAnd(words[2], high))));
+            v128::deinterleave4(in, words);
+            store(d[0] + x, v128::cast<std::uint8_t>(v128::bitOr(v128::bitAnd(words[0], low), v128::bitAnd(words[1], high))));
+            store(d[1] + x, v128::cast<std::uint8_t>(v128::bitOr(v128::shiftRight<8>(words[0]), v128::shiftLeft<8>(words[2]))));
+            store(d[2] + x, v128::cast<std::uint8_t>(v128::bitOr(v128::bitAnd(words[1], low), v128::bitAnd(words[2], high))));
         }
         return x;
     };
-    std::int64_t x = commonHead<std::uint8_t, 3>(d, n);
+    std::int64_t x = commonHead<std::uint8_t, 3, 16>(d, n);
     if (x < 0) {
-        x = body(0, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { isa::storeU(q, v); });
+        x = body(0, [](std::uint8_t* q, v128::Vec<std::uint8_t> v) { v128::storeU(q, v); });
     } else {
         for (std::int64_t h = 0; h < x; ++h) pixel(h);
-        x = body(x, [](std::uint8_t* q, isa::Vec<std::uint8_t> v) { Store::store(q, v); });
+        x = body(x, [](std::uint8_t* q, v128::Vec<std::uint8_t> v) { Store::store(q, v); });
     }
     for (; x < n; ++x) pixel(x);
 }
@@ -355,26 +356,26 @@ inline void split3Row(const std::uint8_t* s, std::uint8_t* const d[3], std::int6
 template <class T, bool KeepLast>
 inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
     using V = isa::Vec<T>;
-    constexpr std::int64_t kPixels = std::int64_t(16 / (4 * sizeof(T)));
+    constexpr std::int64_t kPixels = std::int64_t(isa::kVectorBytes / (4 * sizeof(T)));
     const auto pixel = [&](std::int64_t x) {
         const T c0 = s[4 * x], c1 = s[4 * x + 1], c2 = s[4 * x + 2], c3 = s[4 * x + 3];
         d[4 * x] = c2, d[4 * x + 1] = c1, d[4 * x + 2] = c0;
         if constexpr (!KeepLast) d[4 * x + 3] = c3;
     };
     std::int64_t x = 0;
-    while (x < kPixels && x < n && !isa::aligned16(d + 4 * x)) ++x;
+    while (x < kPixels && x < n && !isa::alignedV(d + 4 * x)) ++x;
     if (x == kPixels) x = 0;  // never aligned: unaligned stores from the start
     for (std::int64_t h = 0; h < x; ++h) pixel(h);
     V last = isa::zero<T>();
     {
-        alignas(16) T lane[16 / sizeof(T)];
-        for (std::size_t e = 0; e < 16 / sizeof(T); ++e) std::memset(&lane[e], e % 4 == 3 ? 0xFF : 0, sizeof(T));
+        alignas(isa::kVectorBytes) T lane[isa::kLanes<T>];
+        for (std::size_t e = 0; e < isa::kLanes<T>; ++e) std::memset(&lane[e], e % 4 == 3 ? 0xFF : 0, sizeof(T));
         last = isa::loadA(lane);
     }
     for (; x + kPixels <= n; x += kPixels) {
-        V v = isa::swapFirstAndThird(isa::loadU(s + 4 * x));
-        if constexpr (KeepLast) v = isa::select(last, isa::loadU(d + 4 * x), v);
-        isa::storeU(d + 4 * x, v);
+        const V v = isa::swapFirstAndThird(isa::loadU(s + 4 * x));
+        if constexpr (KeepLast) isa::storeKeep(d + 4 * x, v, last);
+        else isa::storeU(d + 4 * x, v);
     }
     for (; x < n; ++x) pixel(x);
 }
@@ -385,12 +386,12 @@ inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
 // elements that start one element before source pixel x, so the body loads
 // the source at 3x - 1 and takes lane 0 of each pixel from the destination.
 // How channel 0 is preserved: the scalar head and tail never write it; the
-// vector body loads the destination vector, and its store puts back the
-// channel-0 lanes exactly as they were loaded (no byte changes value), so the
-// call reads channel 0 but leaves it as it was.
+// vector body (16-byte vectors on every target) stores with the channel-0
+// lanes kept (v128::storeKeep: not written where masked stores exist,
+// rewritten with the values just read elsewhere).
 template <class T>
 inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
-    using V = isa::Vec<T>;
+    using V = v128::Vec<T>;
     constexpr std::int64_t kPixels = std::int64_t(16 / (4 * sizeof(T))) > 0 ? 16 / (4 * sizeof(T)) : 1;
     const auto pixel = [&](std::int64_t x) {
         d[4 * x + 1] = s[3 * x], d[4 * x + 2] = s[3 * x + 1], d[4 * x + 3] = s[3 * x + 2];
@@ -398,7 +399,7 @@ inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
     // the first pixel has no element before it; further head pixels align
     // the destination when a pixel boundary ever is aligned
     std::int64_t x = 1;
-    while (x < n && x <= kPixels && !isa::aligned16(d + 4 * x)) ++x;
+    while (x < n && x <= kPixels && !v128::aligned16(d + 4 * x)) ++x;
     if (x > kPixels) x = 1;
     for (std::int64_t h = 0; h < x && h < n; ++h) pixel(h);
     // lanes of channel 0
@@ -406,27 +407,27 @@ inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
     {
         alignas(16) T lane[16 / sizeof(T)];
         for (std::size_t e = 0; e < 16 / sizeof(T); ++e) std::memset(&lane[e], e % 4 == 0 ? 0xFF : 0, sizeof(T));
-        first = isa::loadA(lane);
+        first = v128::loadA(lane);
     }
     if constexpr (sizeof(T) == 1) {
         // two pixels per 64-bit lane: the lane loaded at 3x - 1 holds pixel
         // x's dword in bytes 0-3 and pixel x + 1's from byte 3 on, so the
         // upper dword comes from the lane shifted up by one byte
-        const V low = isa::cast<T>(isa::set1<std::uint64_t>(0x00000000FFFFFF00ull));
-        const V high = isa::cast<T>(isa::set1<std::uint64_t>(0xFFFFFF0000000000ull));
+        const V low = v128::cast<T>(v128::set1<std::uint64_t>(0x00000000FFFFFF00ull));
+        const V high = v128::cast<T>(v128::set1<std::uint64_t>(0xFFFFFF0000000000ull));
         for (; x + 5 <= n; x += 4) {
-            const V y = isa::loadHalves(s + 3 * x - 1, s + 3 * x + 5);
-            const V shifted = isa::cast<T>(isa::shiftLeft<8>(isa::cast<std::uint64_t>(y)));
-            const V v = isa::bitOr(isa::bitAnd(low, y), isa::bitAnd(high, shifted));
-            isa::storeU(d + 4 * x, isa::bitOr(v, isa::bitAnd(first, isa::loadU(d + 4 * x))));
+            const V y = v128::loadHalves(s + 3 * x - 1, s + 3 * x + 5);
+            const V shifted = v128::cast<T>(v128::shiftLeft<8>(v128::cast<std::uint64_t>(y)));
+            const V v = v128::bitOr(v128::bitAnd(low, y), v128::bitAnd(high, shifted));
+            v128::storeKeep(d + 4 * x, v, first);
         }
     } else if constexpr (sizeof(T) == 2) {
         for (; x + 2 <= n; x += 2) {
-            const V y = isa::loadHalves(s + 3 * x - 1, s + 3 * x + 2);
-            isa::storeU(d + 4 * x, isa::select(first, isa::loadU(d + 4 * x), y));
+            const V y = v128::loadHalves(s + 3 * x - 1, s + 3 * x + 2);
+            v128::storeKeep(d + 4 * x, y, first);
         }
     } else {
-        for (; x + 1 <= n; ++x) isa::storeU(d + 4 * x, isa::select(first, isa::loadU(d + 4 * x), isa::loadU(s + 3 * x - 1)));
+        for (; x + 1 <= n; ++x) v128::storeKeep(d + 4 * x, v128::loadU(s + 3 * x - 1), first);
     }
     for (; x < n; ++x) pixel(x);
 }

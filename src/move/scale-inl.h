@@ -132,9 +132,9 @@ inline double floatErrorBound(double sMax, double m, double a) {
 template <class S, class D, class Op, class Ref>
 inline bool matchesEvery(const Op& op, const Ref& ref) {
     constexpr int kChunk = 1024;
-    alignas(16) S all[kChunk];
-    alignas(16) D want[kChunk];
-    alignas(16) D got[kChunk];
+    alignas(isa::kVectorBytes) S all[kChunk];
+    alignas(isa::kVectorBytes) D want[kChunk];
+    alignas(isa::kVectorBytes) D got[kChunk];
     for (std::int64_t base = std::numeric_limits<S>::min(); base <= std::numeric_limits<S>::max(); base += kChunk) {
         for (int i = 0; i < kChunk; ++i) all[i] = S(base + i);
         kernels::convertRow<false, kernels::StoreRegular>(ref, all, want, kChunk);
@@ -181,10 +181,10 @@ inline QvnStatus scaleC(const S* src, std::int64_t srcStep, D* dst, std::int64_t
         const bool bounded = same || err < 0.125;
         // 8-bit sources: all 256 results in double, once; a float form is as
         // good when it gives the same bits for every one of them.
-        alignas(16) S all[256];
-        alignas(16) D want[256];
+        alignas(isa::kVectorBytes) S all[256];
+        alignas(isa::kVectorBytes) D want[256];
         const auto matchesAll = [&](const auto& op) {
-            alignas(16) D got[256];
+            alignas(isa::kVectorBytes) D got[256];
             kernels::convertRow<false, kernels::StoreRegular>(op, all, got, 256);
             return std::memcmp(want, got, sizeof(want)) == 0;
         };

@@ -1,65 +1,43 @@
-// The instruction-set layer of the sse3 target: the only file that includes
-// intrinsics headers. Kernels use these neutral names on Vec<T> (16 bytes of
-// T); a wider target provides the same functions on its own vectors.
+// The 16-byte vector layer: the instruction-set layer of the sse3 target, and
+// the 16-byte half that the wider layers (v256.h, v512.h) build on. Kernels use
+// these neutral names on Vec<T> (16 bytes of T) through the alias isa (see
+// isa.h); the wider layers provide the same functions on their own vectors,
+// with the same meaning for the whole vector.
 //
-// Nothing here may emit an instruction newer than SSE3: the baseline build is
-// checked for that by disassembly. Operations SSE3 lacks (unsigned 16-bit
-// min/max, 32-bit multiplies, unsigned packs) are composed from SSE2.
-#ifndef QVN_KERNELS_ISA_SSE3_H
-#define QVN_KERNELS_ISA_SSE3_H
+// Compiled for the sse3 target, nothing here may emit an instruction newer
+// than SSE3: that build is checked by disassembly. Operations SSE3 lacks
+// (unsigned 16-bit min/max, 32-bit multiplies, unsigned packs) are composed
+// from SSE2. Compiled for a wider target, the same code is VEX-encoded, and a
+// few operations take the newer instruction where it exists (a byte shuffle,
+// a masked store); the results are the same bits.
+#ifndef QVN_KERNELS_ISA_V128_H
+#define QVN_KERNELS_ISA_V128_H
 
 #include <emmintrin.h>
 #include <pmmintrin.h>
 #include <xmmintrin.h>
+#include "kernels/target.h"
+#if QVN_TARGET_LEVEL >= 2
+#include <immintrin.h>
+#endif
 
 #include <cstddef>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
 
-#include "kernels/target.h"
-
 QVN_TARGET_BEGIN
-namespace isa {
+namespace v128 {
 
-inline constexpr std::size_t kVectorBytes = 16;
-
-template <class T>
-struct Vec;
-#define QVN_INT_VEC(T)    \
-    template <>           \
-    struct Vec<T> {       \
-        __m128i v;        \
-    };
-QVN_INT_VEC(std::uint8_t)
-QVN_INT_VEC(std::int8_t)
-QVN_INT_VEC(std::uint16_t)
-QVN_INT_VEC(std::int16_t)
-QVN_INT_VEC(std::uint32_t)
-QVN_INT_VEC(std::int32_t)
-QVN_INT_VEC(std::uint64_t)
-QVN_INT_VEC(std::int64_t)
-#undef QVN_INT_VEC
-template <>
-struct Vec<float> {
-    __m128 v;
-};
-template <>
-struct Vec<double> {
-    __m128d v;
-};
-
-// Elements of T in one vector.
-template <class T>
-inline constexpr std::size_t kLanes = kVectorBytes / sizeof(T);
-
-template <class T>
-inline constexpr bool kIsInt = !(std::is_same_v<T, float> || std::is_same_v<T, double>);
-
-template <class T>
-inline bool aligned16(const T* p) {
-    return (reinterpret_cast<std::uintptr_t>(p) & 15) == 0;
-}
+#define QVN_VBYTES 16
+#define QVN_VINT __m128i
+#define QVN_VFLOAT __m128
+#define QVN_VDOUBLE __m128d
+#include "kernels/isa/layer-types.inc"
+#undef QVN_VBYTES
+#undef QVN_VINT
+#undef QVN_VFLOAT
+#undef QVN_VDOUBLE
 
 // ---- raw 128-bit views ------------------------------------------------------
 template <class T>
@@ -143,6 +121,18 @@ inline Vec<T> andNot(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm_andnot_si128(b
 template <class T>
 inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
     return bitOr(bitAnd(mask, a), andNot(mask, b));
+}
+// Stores v at p (any alignment) except in the lanes set in keep (all ones),
+// whose bytes keep their values. With masked stores (AVX-512BW and VL) the
+// kept lanes are not written at all; otherwise they are rewritten with the
+// values just read from them.
+template <class T>
+inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
+#if QVN_TARGET_LEVEL >= 3
+    _mm_mask_storeu_epi8(p, static_cast<__mmask16>(~_mm_movemask_epi8(bits(keep))), bits(v));
+#else
+    storeU(p, select(keep, loadU(p), v));
+#endif
 }
 
 // ---- integer arithmetic -------------------------------------------------------
@@ -264,6 +254,11 @@ inline Vec<T> cmpGt(Vec<T> a, Vec<T> b) {
 template <class T>
 inline int moveMask8(Vec<T> a) { return _mm_movemask_epi8(bits(a)); }
 inline int moveMask(Vec<float> a) { return _mm_movemask_ps(a.v); }
+// Whether any, or every, lane of a comparison result is set.
+template <class T>
+inline bool anyTrue(Vec<T> m) { return _mm_movemask_epi8(bits(m)) != 0; }
+template <class T>
+inline bool allTrue(Vec<T> m) { return _mm_movemask_epi8(bits(m)) == 0xFFFF; }
 
 // ---- min / max --------------------------------------------------------------------
 inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm_min_epu8(a.v, b.v)}; }
@@ -542,7 +537,7 @@ inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), 
 // x in the low 32-bit lane, zeros above.
 inline Vec<std::uint32_t> fromLow32(std::uint32_t x) { return {_mm_cvtsi32_si128(static_cast<int>(x))}; }
 
-}  // namespace isa
+}  // namespace v128
 QVN_TARGET_END
 
 #endif

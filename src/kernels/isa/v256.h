@@ -1,0 +1,377 @@
+// The 32-byte vector layer of the avx2 target (AVX2 with FMA, BMI2 and F16C):
+// the functions of v128.h on 32-byte vectors, with the same meaning for the
+// whole vector. Where an AVX2 instruction works within 16-byte halves (the
+// unpacks, packs and byte shifts), the function adds the permute that gives
+// the whole-vector order, so a kernel written for 16-byte vectors computes the
+// same bits here.
+//
+// Floating-point operations keep the 16-byte layer's instruction families:
+// the approximate reciprocal is rcpps on every target, comparisons use the
+// predicates (quiet or signalling) of their SSE forms, and no operation is
+// fused (FMA is never used for a separate multiply and add).
+#ifndef QVN_KERNELS_ISA_V256_H
+#define QVN_KERNELS_ISA_V256_H
+
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#include "kernels/isa/v128.h"
+#include "kernels/target.h"
+
+#if QVN_TARGET_LEVEL < 2
+#error "v256.h needs a target with AVX2"
+#endif
+
+QVN_TARGET_BEGIN
+namespace v256 {
+
+#define QVN_VBYTES 32
+#define QVN_VINT __m256i
+#define QVN_VFLOAT __m256
+#define QVN_VDOUBLE __m256d
+#include "kernels/isa/layer-types.inc"
+#undef QVN_VBYTES
+#undef QVN_VINT
+#undef QVN_VFLOAT
+#undef QVN_VDOUBLE
+
+// ---- raw views -----------------------------------------------------------------
+template <class T>
+inline __m256i bits(Vec<T> a) {
+    if constexpr (std::is_same_v<T, float>) return _mm256_castps_si256(a.v);
+    else if constexpr (std::is_same_v<T, double>) return _mm256_castpd_si256(a.v);
+    else return a.v;
+}
+template <class T>
+inline Vec<T> fromBits(__m256i b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_castsi256_ps(b)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_castsi256_pd(b)};
+    else return {b};
+}
+template <class U, class T>
+inline Vec<U> cast(Vec<T> a) {
+    return fromBits<U>(bits(a));
+}
+
+// The 16-byte halves, and a vector made of two halves.
+template <class T>
+inline v128::Vec<T> lowHalf(Vec<T> a) {
+    return v128::fromBits<T>(_mm256_castsi256_si128(bits(a)));
+}
+template <class T>
+inline v128::Vec<T> highHalf(Vec<T> a) {
+    return v128::fromBits<T>(_mm256_extracti128_si256(bits(a), 1));
+}
+template <class T>
+inline Vec<T> combine(v128::Vec<T> lo, v128::Vec<T> hi) {
+    return fromBits<T>(_mm256_inserti128_si256(_mm256_castsi128_si256(v128::bits(lo)), v128::bits(hi), 1));
+}
+
+// ---- loads and stores --------------------------------------------------------------
+template <class T>
+inline Vec<T> loadU(const T* p) {
+    return fromBits<T>(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+}
+template <class T>
+inline Vec<T> loadA(const T* p) {
+    return fromBits<T>(_mm256_load_si256(reinterpret_cast<const __m256i*>(p)));
+}
+template <class T>
+inline void storeU(T* p, Vec<T> a) {
+    _mm256_storeu_si256(reinterpret_cast<__m256i*>(p), bits(a));
+}
+template <class T>
+inline void storeA(T* p, Vec<T> a) {
+    _mm256_store_si256(reinterpret_cast<__m256i*>(p), bits(a));
+}
+// Non-temporal store to a 32-byte aligned address; finish with storeFence().
+template <class T>
+inline void storeStream(T* p, Vec<T> a) {
+    _mm256_stream_si256(reinterpret_cast<__m256i*>(p), bits(a));
+}
+using v128::storeFence;
+
+// ---- constants -------------------------------------------------------------------
+template <class T>
+inline Vec<T> zero() {
+    return fromBits<T>(_mm256_setzero_si256());
+}
+template <class T>
+inline Vec<T> set1(T x) {
+    if constexpr (sizeof(T) == 1) return {_mm256_set1_epi8(static_cast<char>(x))};
+    else if constexpr (std::is_same_v<T, float>) return {_mm256_set1_ps(x)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_set1_pd(x)};
+    else if constexpr (sizeof(T) == 2) return {_mm256_set1_epi16(static_cast<short>(x))};
+    else if constexpr (sizeof(T) == 4) return {_mm256_set1_epi32(static_cast<int>(x))};
+    else return {_mm256_set1_epi64x(static_cast<long long>(x))};
+}
+template <class T>
+inline Vec<T> allOnes() { return fromBits<T>(_mm256_set1_epi32(-1)); }
+
+// ---- bitwise ---------------------------------------------------------------------
+template <class T>
+inline Vec<T> bitAnd(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm256_and_si256(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitOr(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm256_or_si256(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitXor(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm256_xor_si256(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> andNot(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm256_andnot_si256(bits(a), bits(b))); }
+// Lanes of a where mask lanes are all ones, of b where they are zero.
+template <class T>
+inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
+#if QVN_TARGET_LEVEL >= 3
+    return fromBits<T>(_mm256_ternarylogic_epi64(bits(mask), bits(a), bits(b), 0xCA));
+#else
+    return fromBits<T>(_mm256_blendv_epi8(bits(b), bits(a), bits(mask)));
+#endif
+}
+// v at p except in the lanes set in keep, whose bytes keep their values; not
+// written at all where masked stores exist (AVX-512BW and VL).
+template <class T>
+inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
+#if QVN_TARGET_LEVEL >= 3
+    _mm256_mask_storeu_epi8(p, ~static_cast<__mmask32>(_mm256_movemask_epi8(bits(keep))), bits(v));
+#else
+    storeU(p, select(keep, loadU(p), v));
+#endif
+}
+
+// ---- integer and float arithmetic ---------------------------------------------------
+template <class T>
+inline Vec<T> add(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_add_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_add_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm256_add_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm256_add_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm256_add_epi32(a.v, b.v)};
+    else return {_mm256_add_epi64(a.v, b.v)};
+}
+template <class T>
+inline Vec<T> sub(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_sub_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_sub_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm256_sub_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm256_sub_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm256_sub_epi32(a.v, b.v)};
+    else return {_mm256_sub_epi64(a.v, b.v)};
+}
+inline Vec<std::uint8_t> addSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm256_adds_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> addSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm256_adds_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> addSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_adds_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> addSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_adds_epi16(a.v, b.v)}; }
+inline Vec<std::uint8_t> subSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm256_subs_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> subSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm256_subs_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> subSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_subs_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> subSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_subs_epi16(a.v, b.v)}; }
+
+inline Vec<std::int16_t> mulLo(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulLo(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> mulHi(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_mulhi_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulHi(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_mulhi_epu16(a.v, b.v)}; }
+inline Vec<std::int32_t> mulAddPairs(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_madd_epi16(a.v, b.v)}; }
+inline Vec<std::uint64_t> mulEven(Vec<std::uint32_t> a, Vec<std::uint32_t> b) { return {_mm256_mul_epu32(a.v, b.v)}; }
+
+inline Vec<float> mul(Vec<float> a, Vec<float> b) { return {_mm256_mul_ps(a.v, b.v)}; }
+inline Vec<double> mul(Vec<double> a, Vec<double> b) { return {_mm256_mul_pd(a.v, b.v)}; }
+inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm256_div_ps(a.v, b.v)}; }
+inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm256_div_pd(a.v, b.v)}; }
+// The same approximation as the 16-byte layer's (rcpps, eight lanes).
+inline Vec<float> rcpApprox(Vec<float> a) { return {_mm256_rcp_ps(a.v)}; }
+
+// ---- shifts ------------------------------------------------------------------------
+template <int N, class T>
+inline Vec<T> shiftLeft(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) return {_mm256_slli_epi16(a.v, N)};
+    else if constexpr (sizeof(T) == 4) return {_mm256_slli_epi32(a.v, N)};
+    else return {_mm256_slli_epi64(a.v, N)};
+}
+template <int N, class T>
+inline Vec<T> shiftRight(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm256_srai_epi16(a.v, N)};
+        else return {_mm256_srli_epi16(a.v, N)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm256_srai_epi32(a.v, N)};
+        else return {_mm256_srli_epi32(a.v, N)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in this layer");
+        return {_mm256_srli_epi64(a.v, N)};
+    }
+}
+using v128::ShiftCount;
+using v128::shiftCount;
+template <class T>
+inline Vec<T> shiftLeft(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) return {_mm256_sll_epi16(a.v, n.c)};
+    else if constexpr (sizeof(T) == 4) return {_mm256_sll_epi32(a.v, n.c)};
+    else return {_mm256_sll_epi64(a.v, n.c)};
+}
+template <class T>
+inline Vec<T> shiftRight(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm256_sra_epi16(a.v, n.c)};
+        else return {_mm256_srl_epi16(a.v, n.c)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm256_sra_epi32(a.v, n.c)};
+        else return {_mm256_srl_epi32(a.v, n.c)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in this layer");
+        return {_mm256_srl_epi64(a.v, n.c)};
+    }
+}
+
+// ---- comparisons (all-ones lanes where true) ------------------------------------------
+template <class T>
+inline Vec<T> cmpEq(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_cmp_ps(a.v, b.v, _CMP_EQ_OQ)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_cmp_pd(a.v, b.v, _CMP_EQ_OQ)};
+    else if constexpr (sizeof(T) == 1) return {_mm256_cmpeq_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm256_cmpeq_epi16(a.v, b.v)};
+    else return {_mm256_cmpeq_epi32(a.v, b.v)};
+}
+template <class T>
+inline Vec<T> cmpGt(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_cmp_ps(a.v, b.v, _CMP_GT_OS)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_cmp_pd(a.v, b.v, _CMP_GT_OS)};
+    else {
+        static_assert(std::is_signed_v<T>, "signed lanes");
+        if constexpr (sizeof(T) == 1) return {_mm256_cmpgt_epi8(a.v, b.v)};
+        else if constexpr (sizeof(T) == 2) return {_mm256_cmpgt_epi16(a.v, b.v)};
+        else return {_mm256_cmpgt_epi32(a.v, b.v)};
+    }
+}
+// Lanes where a < b does not hold: a >= b, or either is NaN.
+inline Vec<float> cmpNotLess(Vec<float> a, Vec<float> b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_NLT_US)}; }
+template <class T>
+inline bool anyTrue(Vec<T> m) { return _mm256_movemask_epi8(bits(m)) != 0; }
+template <class T>
+inline bool allTrue(Vec<T> m) { return _mm256_movemask_epi8(bits(m)) == -1; }
+
+// ---- min / max ------------------------------------------------------------------------
+inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm256_min_epu8(a.v, b.v)}; }
+inline Vec<std::uint8_t> max(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm256_max_epu8(a.v, b.v)}; }
+inline Vec<std::int16_t> min(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_min_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> max(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm256_max_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> min(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_min_epu16(a.v, b.v)}; }
+inline Vec<std::uint16_t> max(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm256_max_epu16(a.v, b.v)}; }
+inline Vec<std::int32_t> min(Vec<std::int32_t> a, Vec<std::int32_t> b) { return {_mm256_min_epi32(a.v, b.v)}; }
+inline Vec<std::int32_t> max(Vec<std::int32_t> a, Vec<std::int32_t> b) { return {_mm256_max_epi32(a.v, b.v)}; }
+// minps/maxps semantics: the second operand where either is NaN.
+inline Vec<float> min(Vec<float> a, Vec<float> b) { return {_mm256_min_ps(a.v, b.v)}; }
+inline Vec<float> max(Vec<float> a, Vec<float> b) { return {_mm256_max_ps(a.v, b.v)}; }
+inline Vec<double> min(Vec<double> a, Vec<double> b) { return {_mm256_min_pd(a.v, b.v)}; }
+inline Vec<double> max(Vec<double> a, Vec<double> b) { return {_mm256_max_pd(a.v, b.v)}; }
+
+// ---- interleave, widen, narrow (whole-vector order) --------------------------------------
+// The 64-bit quarters in the order 0, 2, 1, 3: the 16-byte unpacks of two
+// vectors so ordered interleave the low halves (unpacklo) or high halves
+// (unpackhi) of the originals.
+inline __m256i quartersCrossed(__m256i a) { return _mm256_permute4x64_epi64(a, 0xD8); }
+
+template <class T>
+inline Vec<T> zipLo(Vec<T> a, Vec<T> b) {
+    const __m256i x = quartersCrossed(bits(a)), y = quartersCrossed(bits(b));
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm256_unpacklo_epi8(x, y));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm256_unpacklo_epi16(x, y));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm256_unpacklo_epi32(x, y));
+    else return fromBits<T>(_mm256_unpacklo_epi64(x, y));
+}
+template <class T>
+inline Vec<T> zipHi(Vec<T> a, Vec<T> b) {
+    const __m256i x = quartersCrossed(bits(a)), y = quartersCrossed(bits(b));
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm256_unpackhi_epi8(x, y));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm256_unpackhi_epi16(x, y));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm256_unpackhi_epi32(x, y));
+    else return fromBits<T>(_mm256_unpackhi_epi64(x, y));
+}
+
+// Zero- or sign-extends one 16-byte half to twice the width.
+template <class W, class T>
+inline Vec<W> widenHalf(__m128i h) {
+    static_assert(sizeof(W) == 2 * sizeof(T), "one step wider");
+    if constexpr (sizeof(T) == 1) return fromBits<W>(std::is_signed_v<T> ? _mm256_cvtepi8_epi16(h) : _mm256_cvtepu8_epi16(h));
+    else if constexpr (sizeof(T) == 2) return fromBits<W>(std::is_signed_v<T> ? _mm256_cvtepi16_epi32(h) : _mm256_cvtepu16_epi32(h));
+    else return fromBits<W>(std::is_signed_v<T> ? _mm256_cvtepi32_epi64(h) : _mm256_cvtepu32_epi64(h));
+}
+template <class W, class T>
+inline Vec<W> widenLo(Vec<T> a) {
+    return widenHalf<W, T>(_mm256_castsi256_si128(bits(a)));
+}
+template <class W, class T>
+inline Vec<W> widenHi(Vec<T> a) {
+    return widenHalf<W, T>(_mm256_extracti128_si256(bits(a), 1));
+}
+
+// Saturating narrowing of two vectors into one (lo's lanes first).
+inline Vec<std::uint8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::uint8_t) {
+    return {_mm256_permute4x64_epi64(_mm256_packus_epi16(lo.v, hi.v), 0xD8)};
+}
+inline Vec<std::int8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::int8_t) {
+    return {_mm256_permute4x64_epi64(_mm256_packs_epi16(lo.v, hi.v), 0xD8)};
+}
+inline Vec<std::int16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::int16_t) {
+    return {_mm256_permute4x64_epi64(_mm256_packs_epi32(lo.v, hi.v), 0xD8)};
+}
+inline Vec<std::uint16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::uint16_t) {
+    return {_mm256_permute4x64_epi64(_mm256_packus_epi32(lo.v, hi.v), 0xD8)};
+}
+template <class N, class W>
+inline Vec<N> packSat(Vec<W> lo, Vec<W> hi) {
+    return packSat(lo, hi, N{});
+}
+
+// ---- conversions ----------------------------------------------------------------------
+inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm256_cvtepi32_ps(a.v)}; }
+inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm256_cvtps_epi32(a.v)}; }
+inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm256_cvttps_epi32(a.v)}; }
+inline Vec<double> toDoubleLo(Vec<std::int32_t> a) { return {_mm256_cvtepi32_pd(_mm256_castsi256_si128(a.v))}; }
+inline Vec<double> toDoubleHi(Vec<std::int32_t> a) { return {_mm256_cvtepi32_pd(_mm256_extracti128_si256(a.v, 1))}; }
+inline Vec<double> toDoubleLo(Vec<float> a) { return {_mm256_cvtps_pd(_mm256_castps256_ps128(a.v))}; }
+inline Vec<double> toDoubleHi(Vec<float> a) { return {_mm256_cvtps_pd(_mm256_extractf128_ps(a.v, 1))}; }
+inline Vec<std::int32_t> toInt(Vec<double> lo, Vec<double> hi) {
+    return {_mm256_inserti128_si256(_mm256_castsi128_si256(_mm256_cvtpd_epi32(lo.v)), _mm256_cvtpd_epi32(hi.v), 1)};
+}
+inline Vec<float> toFloat(Vec<double> lo, Vec<double> hi) {
+    return {_mm256_insertf128_ps(_mm256_castps128_ps256(_mm256_cvtpd_ps(lo.v)), _mm256_cvtpd_ps(hi.v), 1)};
+}
+inline Vec<std::uint32_t> lowHalves(Vec<double> lo, Vec<double> hi) {
+    const __m256 s = _mm256_shuffle_ps(_mm256_castpd_ps(lo.v), _mm256_castpd_ps(hi.v), 0x88);
+    return {quartersCrossed(_mm256_castps_si256(s))};
+}
+using v128::getControl;
+using v128::kRoundNearest;
+using v128::kRoundTowardZero;
+using v128::prefetch;
+using v128::setControl;
+using v128::toIntScalar;
+using v128::withRounding;
+
+// ---- channel shuffles -----------------------------------------------------------------
+// On 16-byte halves, with SSSE3's byte shuffle available to the 16-byte layer.
+namespace half = v128;
+#include "kernels/isa/layer-halves.inc"
+
+// Elements 0 and 2 of every four-element pixel exchanged: one byte shuffle
+// (pixels never cross a 16-byte half).
+template <class T>
+inline Vec<T> swapFirstAndThird(Vec<T> a) {
+    __m256i c;
+    if constexpr (sizeof(T) == 1)
+        c = _mm256_setr_epi8(2, 1, 0, 3, 6, 5, 4, 7, 10, 9, 8, 11, 14, 13, 12, 15, 2, 1, 0, 3, 6, 5, 4, 7, 10, 9, 8,
+                             11, 14, 13, 12, 15);
+    else if constexpr (sizeof(T) == 2)
+        c = _mm256_setr_epi8(4, 5, 2, 3, 0, 1, 6, 7, 12, 13, 10, 11, 8, 9, 14, 15, 4, 5, 2, 3, 0, 1, 6, 7, 12, 13, 10,
+                             11, 8, 9, 14, 15);
+    else
+        return fromBits<T>(_mm256_shuffle_epi32(bits(a), 0xC6));
+    return fromBits<T>(_mm256_shuffle_epi8(bits(a), c));
+}
+
+}  // namespace v256
+QVN_TARGET_END
+
+#endif

@@ -1,0 +1,389 @@
+// The 64-byte vector layer of the avx512 target (AVX-512 F, BW, DQ and VL):
+// the functions of v128.h on 64-byte vectors, with the same meaning for the
+// whole vector. Comparisons produce all-ones lanes, as on the other layers
+// (from the mask registers); selects are one ternary-logic instruction; stores
+// that keep some lanes are masked stores, which do not write the kept bytes.
+//
+// Floating-point operations keep the 16-byte layer's instruction families:
+// the approximate reciprocal is rcpps on two 32-byte halves (the 14-bit
+// AVX-512 reciprocal would give other bits), comparisons use the predicates of
+// their SSE forms, and nothing is fused.
+#ifndef QVN_KERNELS_ISA_V512_H
+#define QVN_KERNELS_ISA_V512_H
+
+#include <immintrin.h>
+
+#include <cstddef>
+#include <cstdint>
+#include <type_traits>
+
+#include "kernels/isa/v256.h"
+#include "kernels/target.h"
+
+#if QVN_TARGET_LEVEL < 3
+#error "v512.h needs a target with AVX-512 F, BW, DQ and VL"
+#endif
+
+QVN_TARGET_BEGIN
+namespace v512 {
+
+#define QVN_VBYTES 64
+#define QVN_VINT __m512i
+#define QVN_VFLOAT __m512
+#define QVN_VDOUBLE __m512d
+#include "kernels/isa/layer-types.inc"
+#undef QVN_VBYTES
+#undef QVN_VINT
+#undef QVN_VFLOAT
+#undef QVN_VDOUBLE
+
+// ---- raw views ---------------------------------------------------------------
+template <class T>
+inline __m512i bits(Vec<T> a) {
+    if constexpr (std::is_same_v<T, float>) return _mm512_castps_si512(a.v);
+    else if constexpr (std::is_same_v<T, double>) return _mm512_castpd_si512(a.v);
+    else return a.v;
+}
+template <class T>
+inline Vec<T> fromBits(__m512i b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm512_castsi512_ps(b)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm512_castsi512_pd(b)};
+    else return {b};
+}
+template <class U, class T>
+inline Vec<U> cast(Vec<T> a) {
+    return fromBits<U>(bits(a));
+}
+
+// The 32-byte halves, and a vector made of two halves.
+template <class T>
+inline v256::Vec<T> lowHalf(Vec<T> a) {
+    return v256::fromBits<T>(_mm512_castsi512_si256(bits(a)));
+}
+template <class T>
+inline v256::Vec<T> highHalf(Vec<T> a) {
+    return v256::fromBits<T>(_mm512_extracti64x4_epi64(bits(a), 1));
+}
+template <class T>
+inline Vec<T> combine(v256::Vec<T> lo, v256::Vec<T> hi) {
+    return fromBits<T>(_mm512_inserti64x4(_mm512_zextsi256_si512(v256::bits(lo)), v256::bits(hi), 1));
+}
+
+// ---- loads and stores ------------------------------------------------------------
+template <class T>
+inline Vec<T> loadU(const T* p) {
+    return fromBits<T>(_mm512_loadu_si512(p));
+}
+template <class T>
+inline Vec<T> loadA(const T* p) {
+    return fromBits<T>(_mm512_load_si512(p));
+}
+template <class T>
+inline void storeU(T* p, Vec<T> a) {
+    _mm512_storeu_si512(p, bits(a));
+}
+template <class T>
+inline void storeA(T* p, Vec<T> a) {
+    _mm512_store_si512(p, bits(a));
+}
+// Non-temporal store to a 64-byte aligned address; finish with storeFence().
+template <class T>
+inline void storeStream(T* p, Vec<T> a) {
+    _mm512_stream_si512(reinterpret_cast<__m512i*>(p), bits(a));
+}
+using v128::storeFence;
+
+// ---- constants ---------------------------------------------------------------------
+template <class T>
+inline Vec<T> zero() {
+    return fromBits<T>(_mm512_setzero_si512());
+}
+template <class T>
+inline Vec<T> set1(T x) {
+    if constexpr (sizeof(T) == 1) return {_mm512_set1_epi8(static_cast<char>(x))};
+    else if constexpr (std::is_same_v<T, float>) return {_mm512_set1_ps(x)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm512_set1_pd(x)};
+    else if constexpr (sizeof(T) == 2) return {_mm512_set1_epi16(static_cast<short>(x))};
+    else if constexpr (sizeof(T) == 4) return {_mm512_set1_epi32(static_cast<int>(x))};
+    else return {_mm512_set1_epi64(static_cast<long long>(x))};
+}
+template <class T>
+inline Vec<T> allOnes() { return fromBits<T>(_mm512_set1_epi32(-1)); }
+
+// ---- masks ---------------------------------------------------------------------------
+// Comparison results as all-ones lanes, from a mask register.
+template <class T>
+inline Vec<T> fromMask(std::uint64_t m) {
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm512_movm_epi8(m));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm512_movm_epi16(static_cast<__mmask32>(m)));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm512_movm_epi32(static_cast<__mmask16>(m)));
+    else return fromBits<T>(_mm512_movm_epi64(static_cast<__mmask8>(m)));
+}
+// One bit per byte: the top bit of each byte.
+template <class T>
+inline std::uint64_t byteMask(Vec<T> a) {
+    return _mm512_movepi8_mask(bits(a));
+}
+
+// ---- bitwise ---------------------------------------------------------------------------
+template <class T>
+inline Vec<T> bitAnd(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm512_and_si512(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitOr(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm512_or_si512(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> bitXor(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm512_xor_si512(bits(a), bits(b))); }
+template <class T>
+inline Vec<T> andNot(Vec<T> a, Vec<T> b) { return fromBits<T>(_mm512_andnot_si512(bits(a), bits(b))); }
+// Bits of a where mask bits are set, of b elsewhere.
+template <class T>
+inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
+    return fromBits<T>(_mm512_ternarylogic_epi64(bits(mask), bits(a), bits(b), 0xCA));
+}
+// v at p except in the lanes set in keep, which are not written.
+template <class T>
+inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
+    _mm512_mask_storeu_epi8(p, ~byteMask(keep), bits(v));
+}
+
+// ---- arithmetic ---------------------------------------------------------------------------
+template <class T>
+inline Vec<T> add(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm512_add_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm512_add_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm512_add_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm512_add_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm512_add_epi32(a.v, b.v)};
+    else return {_mm512_add_epi64(a.v, b.v)};
+}
+template <class T>
+inline Vec<T> sub(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return {_mm512_sub_ps(a.v, b.v)};
+    else if constexpr (std::is_same_v<T, double>) return {_mm512_sub_pd(a.v, b.v)};
+    else if constexpr (sizeof(T) == 1) return {_mm512_sub_epi8(a.v, b.v)};
+    else if constexpr (sizeof(T) == 2) return {_mm512_sub_epi16(a.v, b.v)};
+    else if constexpr (sizeof(T) == 4) return {_mm512_sub_epi32(a.v, b.v)};
+    else return {_mm512_sub_epi64(a.v, b.v)};
+}
+inline Vec<std::uint8_t> addSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm512_adds_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> addSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm512_adds_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> addSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_adds_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> addSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_adds_epi16(a.v, b.v)}; }
+inline Vec<std::uint8_t> subSat(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm512_subs_epu8(a.v, b.v)}; }
+inline Vec<std::int8_t> subSat(Vec<std::int8_t> a, Vec<std::int8_t> b) { return {_mm512_subs_epi8(a.v, b.v)}; }
+inline Vec<std::uint16_t> subSat(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_subs_epu16(a.v, b.v)}; }
+inline Vec<std::int16_t> subSat(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_subs_epi16(a.v, b.v)}; }
+
+inline Vec<std::int16_t> mulLo(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulLo(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_mullo_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> mulHi(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_mulhi_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> mulHi(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_mulhi_epu16(a.v, b.v)}; }
+inline Vec<std::int32_t> mulAddPairs(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_madd_epi16(a.v, b.v)}; }
+inline Vec<std::uint64_t> mulEven(Vec<std::uint32_t> a, Vec<std::uint32_t> b) { return {_mm512_mul_epu32(a.v, b.v)}; }
+
+inline Vec<float> mul(Vec<float> a, Vec<float> b) { return {_mm512_mul_ps(a.v, b.v)}; }
+inline Vec<double> mul(Vec<double> a, Vec<double> b) { return {_mm512_mul_pd(a.v, b.v)}; }
+inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm512_div_ps(a.v, b.v)}; }
+inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm512_div_pd(a.v, b.v)}; }
+// rcpps on each 32-byte half: the approximation of the other layers.
+inline Vec<float> rcpApprox(Vec<float> a) {
+    return combine(v256::rcpApprox(lowHalf(a)), v256::rcpApprox(highHalf(a)));
+}
+
+// ---- shifts -----------------------------------------------------------------------------
+template <int N, class T>
+inline Vec<T> shiftLeft(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) return {_mm512_slli_epi16(a.v, N)};
+    else if constexpr (sizeof(T) == 4) return {_mm512_slli_epi32(a.v, N)};
+    else return {_mm512_slli_epi64(a.v, N)};
+}
+template <int N, class T>
+inline Vec<T> shiftRight(Vec<T> a) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm512_srai_epi16(a.v, N)};
+        else return {_mm512_srli_epi16(a.v, N)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm512_srai_epi32(a.v, N)};
+        else return {_mm512_srli_epi32(a.v, N)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in the other layers");
+        return {_mm512_srli_epi64(a.v, N)};
+    }
+}
+using v128::ShiftCount;
+using v128::shiftCount;
+template <class T>
+inline Vec<T> shiftLeft(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) return {_mm512_sll_epi16(a.v, n.c)};
+    else if constexpr (sizeof(T) == 4) return {_mm512_sll_epi32(a.v, n.c)};
+    else return {_mm512_sll_epi64(a.v, n.c)};
+}
+template <class T>
+inline Vec<T> shiftRight(Vec<T> a, ShiftCount n) {
+    if constexpr (sizeof(T) == 2) {
+        if constexpr (std::is_signed_v<T>) return {_mm512_sra_epi16(a.v, n.c)};
+        else return {_mm512_srl_epi16(a.v, n.c)};
+    } else if constexpr (sizeof(T) == 4) {
+        if constexpr (std::is_signed_v<T>) return {_mm512_sra_epi32(a.v, n.c)};
+        else return {_mm512_srl_epi32(a.v, n.c)};
+    } else {
+        static_assert(!std::is_signed_v<T>, "no 64-bit arithmetic shift in the other layers");
+        return {_mm512_srl_epi64(a.v, n.c)};
+    }
+}
+
+// ---- comparisons (all-ones lanes where true) -----------------------------------------------
+template <class T>
+inline Vec<T> cmpEq(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return fromMask<T>(_mm512_cmp_ps_mask(a.v, b.v, _CMP_EQ_OQ));
+    else if constexpr (std::is_same_v<T, double>) return fromMask<T>(_mm512_cmp_pd_mask(a.v, b.v, _CMP_EQ_OQ));
+    else if constexpr (sizeof(T) == 1) return fromMask<T>(_mm512_cmpeq_epi8_mask(a.v, b.v));
+    else if constexpr (sizeof(T) == 2) return fromMask<T>(_mm512_cmpeq_epi16_mask(a.v, b.v));
+    else if constexpr (sizeof(T) == 4) return fromMask<T>(_mm512_cmpeq_epi32_mask(a.v, b.v));
+    else return fromMask<T>(_mm512_cmpeq_epi64_mask(a.v, b.v));
+}
+template <class T>
+inline Vec<T> cmpGt(Vec<T> a, Vec<T> b) {
+    if constexpr (std::is_same_v<T, float>) return fromMask<T>(_mm512_cmp_ps_mask(a.v, b.v, _CMP_GT_OS));
+    else if constexpr (std::is_same_v<T, double>) return fromMask<T>(_mm512_cmp_pd_mask(a.v, b.v, _CMP_GT_OS));
+    else {
+        static_assert(std::is_signed_v<T>, "signed lanes");
+        if constexpr (sizeof(T) == 1) return fromMask<T>(_mm512_cmpgt_epi8_mask(a.v, b.v));
+        else if constexpr (sizeof(T) == 2) return fromMask<T>(_mm512_cmpgt_epi16_mask(a.v, b.v));
+        else return fromMask<T>(_mm512_cmpgt_epi32_mask(a.v, b.v));
+    }
+}
+inline Vec<float> cmpNotLess(Vec<float> a, Vec<float> b) {
+    return fromMask<float>(_mm512_cmp_ps_mask(a.v, b.v, _CMP_NLT_US));
+}
+template <class T>
+inline bool anyTrue(Vec<T> m) { return byteMask(m) != 0; }
+template <class T>
+inline bool allTrue(Vec<T> m) { return byteMask(m) == ~std::uint64_t(0); }
+
+// ---- min / max ---------------------------------------------------------------------------
+inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm512_min_epu8(a.v, b.v)}; }
+inline Vec<std::uint8_t> max(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm512_max_epu8(a.v, b.v)}; }
+inline Vec<std::int16_t> min(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_min_epi16(a.v, b.v)}; }
+inline Vec<std::int16_t> max(Vec<std::int16_t> a, Vec<std::int16_t> b) { return {_mm512_max_epi16(a.v, b.v)}; }
+inline Vec<std::uint16_t> min(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_min_epu16(a.v, b.v)}; }
+inline Vec<std::uint16_t> max(Vec<std::uint16_t> a, Vec<std::uint16_t> b) { return {_mm512_max_epu16(a.v, b.v)}; }
+inline Vec<std::int32_t> min(Vec<std::int32_t> a, Vec<std::int32_t> b) { return {_mm512_min_epi32(a.v, b.v)}; }
+inline Vec<std::int32_t> max(Vec<std::int32_t> a, Vec<std::int32_t> b) { return {_mm512_max_epi32(a.v, b.v)}; }
+// minps/maxps semantics: the second operand where either is NaN.
+inline Vec<float> min(Vec<float> a, Vec<float> b) { return {_mm512_min_ps(a.v, b.v)}; }
+inline Vec<float> max(Vec<float> a, Vec<float> b) { return {_mm512_max_ps(a.v, b.v)}; }
+inline Vec<double> min(Vec<double> a, Vec<double> b) { return {_mm512_min_pd(a.v, b.v)}; }
+inline Vec<double> max(Vec<double> a, Vec<double> b) { return {_mm512_max_pd(a.v, b.v)}; }
+
+// ---- interleave, widen, narrow (whole-vector order) ------------------------------------------
+// The 64-bit eighths in the order 0 4 1 5 2 6 3 7: the 16-byte unpacks of two
+// vectors so ordered interleave the low (unpacklo) or high (unpackhi) halves
+// of the originals.
+inline __m512i eighthsCrossed(__m512i a) {
+    return _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 4, 1, 5, 2, 6, 3, 7), a);
+}
+// The inverse order after an in-lane pack: 0 2 4 6 1 3 5 7.
+inline __m512i eighthsPacked(__m512i a) {
+    return _mm512_permutexvar_epi64(_mm512_setr_epi64(0, 2, 4, 6, 1, 3, 5, 7), a);
+}
+
+template <class T>
+inline Vec<T> zipLo(Vec<T> a, Vec<T> b) {
+    const __m512i x = eighthsCrossed(bits(a)), y = eighthsCrossed(bits(b));
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm512_unpacklo_epi8(x, y));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm512_unpacklo_epi16(x, y));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm512_unpacklo_epi32(x, y));
+    else return fromBits<T>(_mm512_unpacklo_epi64(x, y));
+}
+template <class T>
+inline Vec<T> zipHi(Vec<T> a, Vec<T> b) {
+    const __m512i x = eighthsCrossed(bits(a)), y = eighthsCrossed(bits(b));
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm512_unpackhi_epi8(x, y));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm512_unpackhi_epi16(x, y));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm512_unpackhi_epi32(x, y));
+    else return fromBits<T>(_mm512_unpackhi_epi64(x, y));
+}
+
+template <class W, class T>
+inline Vec<W> widenHalf(__m256i h) {
+    static_assert(sizeof(W) == 2 * sizeof(T), "one step wider");
+    if constexpr (sizeof(T) == 1) return fromBits<W>(std::is_signed_v<T> ? _mm512_cvtepi8_epi16(h) : _mm512_cvtepu8_epi16(h));
+    else if constexpr (sizeof(T) == 2) return fromBits<W>(std::is_signed_v<T> ? _mm512_cvtepi16_epi32(h) : _mm512_cvtepu16_epi32(h));
+    else return fromBits<W>(std::is_signed_v<T> ? _mm512_cvtepi32_epi64(h) : _mm512_cvtepu32_epi64(h));
+}
+template <class W, class T>
+inline Vec<W> widenLo(Vec<T> a) {
+    return widenHalf<W, T>(_mm512_castsi512_si256(bits(a)));
+}
+template <class W, class T>
+inline Vec<W> widenHi(Vec<T> a) {
+    return widenHalf<W, T>(_mm512_extracti64x4_epi64(bits(a), 1));
+}
+
+inline Vec<std::uint8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::uint8_t) {
+    return {eighthsPacked(_mm512_packus_epi16(lo.v, hi.v))};
+}
+inline Vec<std::int8_t> packSat(Vec<std::int16_t> lo, Vec<std::int16_t> hi, std::int8_t) {
+    return {eighthsPacked(_mm512_packs_epi16(lo.v, hi.v))};
+}
+inline Vec<std::int16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::int16_t) {
+    return {eighthsPacked(_mm512_packs_epi32(lo.v, hi.v))};
+}
+inline Vec<std::uint16_t> packSat(Vec<std::int32_t> lo, Vec<std::int32_t> hi, std::uint16_t) {
+    return {eighthsPacked(_mm512_packus_epi32(lo.v, hi.v))};
+}
+template <class N, class W>
+inline Vec<N> packSat(Vec<W> lo, Vec<W> hi) {
+    return packSat(lo, hi, N{});
+}
+
+// ---- conversions ---------------------------------------------------------------------------
+inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm512_cvtepi32_ps(a.v)}; }
+// With the current rounding control (the instructions' default operand form).
+inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm512_cvtps_epi32(a.v)}; }
+inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm512_cvttps_epi32(a.v)}; }
+inline Vec<double> toDoubleLo(Vec<std::int32_t> a) { return {_mm512_cvtepi32_pd(_mm512_castsi512_si256(a.v))}; }
+inline Vec<double> toDoubleHi(Vec<std::int32_t> a) { return {_mm512_cvtepi32_pd(_mm512_extracti64x4_epi64(a.v, 1))}; }
+inline Vec<double> toDoubleLo(Vec<float> a) { return {_mm512_cvtps_pd(_mm512_castps512_ps256(a.v))}; }
+inline Vec<double> toDoubleHi(Vec<float> a) {
+    return {_mm512_cvtps_pd(_mm256_castpd_ps(_mm512_extractf64x4_pd(_mm512_castps_pd(a.v), 1)))};
+}
+inline Vec<std::int32_t> toInt(Vec<double> lo, Vec<double> hi) {
+    return {_mm512_inserti64x4(_mm512_zextsi256_si512(_mm512_cvtpd_epi32(lo.v)), _mm512_cvtpd_epi32(hi.v), 1)};
+}
+inline Vec<float> toFloat(Vec<double> lo, Vec<double> hi) {
+    const __m256 a = _mm512_cvtpd_ps(lo.v), b = _mm512_cvtpd_ps(hi.v);
+    return {_mm512_castpd_ps(_mm512_insertf64x4(_mm512_zextpd256_pd512(_mm256_castps_pd(a)), _mm256_castps_pd(b), 1))};
+}
+inline Vec<std::uint32_t> lowHalves(Vec<double> lo, Vec<double> hi) {
+    return {_mm512_inserti64x4(_mm512_zextsi256_si512(_mm512_cvtepi64_epi32(_mm512_castpd_si512(lo.v))),
+                               _mm512_cvtepi64_epi32(_mm512_castpd_si512(hi.v)), 1)};
+}
+using v128::getControl;
+using v128::kRoundNearest;
+using v128::kRoundTowardZero;
+using v128::prefetch;
+using v128::setControl;
+using v128::toIntScalar;
+using v128::withRounding;
+
+// ---- channel shuffles: on the 32-byte halves ----------------------------------------------------
+namespace half = v256;
+#include "kernels/isa/layer-halves.inc"
+
+template <class T>
+inline Vec<T> swapFirstAndThird(Vec<T> a) {
+    if constexpr (sizeof(T) == 4) {
+        return fromBits<T>(_mm512_shuffle_epi32(bits(a), _MM_PERM_DABC));
+    } else {
+        const __m256i c = v256::bits(v256::swapFirstAndThird(v256::Vec<T>{_mm256_setr_epi8(
+            0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15)}));
+        // the 16-byte control repeats in every quarter: swapping the identity gives it
+        return fromBits<T>(_mm512_shuffle_epi8(bits(a), _mm512_broadcast_i64x4(c)));
+    }
+}
+
+}  // namespace v512
+QVN_TARGET_END
+
+#endif
