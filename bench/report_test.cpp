@@ -10,9 +10,15 @@
 namespace qbench {
 namespace {
 
-std::string lastLine(const std::string& text) {
-    const std::size_t end = text.find_last_not_of('\n');
-    return text.substr(text.rfind('\n', end) + 1, end - text.rfind('\n', end));
+// The line before the closing sentence on how to read the table.
+std::string resultLine(const std::string& text) {
+    std::istringstream in(text);
+    std::string line, previous;
+    while (std::getline(in, line)) {
+        if (line.rfind("Times are nanoseconds per pixel", 0) == 0) return previous;
+        previous = line;
+    }
+    return "(no closing sentence)";
 }
 
 Row row(const char* op, double ours, double opencv = kNone, double fftw = kNone) {
@@ -28,6 +34,7 @@ Row row(const char* op, double ours, double opencv = kNone, double fftw = kNone)
 TEST(Report, CountsOnlyRowsWithAPeerAndWithoutFailure) {
     Report r;
     Row win = row("A", 1.0, 2.0);               // ours/best 0.5
+    win.bound = 0.5;
     Row loss = row("B", 2.0, 1.0);              // 2.0
     Row tie = row("C", 1.0, 1.0);               // 1.0 is not a win
     Row alone = row("D", 5.0);                  // no peer: shown, not counted
@@ -38,17 +45,30 @@ TEST(Report, CountsOnlyRowsWithAPeerAndWithoutFailure) {
     std::ostringstream out;
     printTable(out, r);
     // geomean of 0.5, 2, 1, 0.25 = (0.25)^(1/4)
-    EXPECT_EQ(lastLine(out.str()), "won 2 of 4, geomean ours/best = 0.71");
+    EXPECT_EQ(resultLine(out.str()), "won 2 of 4, geomean ours/best = 0.71");
     EXPECT_NE(out.str().find("FAILED: destination 0 (1, 2, 0) got 3 want 4"), std::string::npos);
     EXPECT_NE(out.str().find("op                       | size      |     ours |   opencv |     fftw |    bound |"
                              " ours/best | ours/bound"),
               std::string::npos);
 }
 
+TEST(Report, LeavesOutColumnsWithoutAnyValue) {
+    Report r;
+    Row failed = row("B", 1.0, kNone, 3.0);  // a failed row's times do not count
+    failed.error = "call failed";
+    r.rows = {row("A", 1.0, 2.0), failed};
+    std::ostringstream out;
+    printTable(out, r);
+    EXPECT_NE(out.str().find("op                       | size      |     ours |   opencv | ours/best\n"),
+              std::string::npos) << out.str();
+    EXPECT_NE(out.str().find("A                        | 512x512   |   1.0000 |   2.0000 |      0.50\n"),
+              std::string::npos) << out.str();
+}
+
 TEST(Report, EmptyTableHasNoGeomean) {
     std::ostringstream out;
     printTable(out, Report{});
-    EXPECT_EQ(lastLine(out.str()), "won 0 of 0, geomean ours/best = -");
+    EXPECT_EQ(resultLine(out.str()), "won 0 of 0, geomean ours/best = -");
 }
 
 TEST(Report, JsonWritesMissingTimesAsNullAndEscapesText) {

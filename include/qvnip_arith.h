@@ -10,7 +10,12 @@ QVN_BEGIN_DECLS
 
 /* Two-source arithmetic: Add gives src1 + src2, Sub src2 - src1, Mul src1 * src2.
  * Integer results are multiplied by 2^-scaleFactor (ties to even) and
- * saturated; AC4 leaves alpha as it is. Steps are not tested. */
+ * saturated. AC4 never changes the destination's alpha (the vector code may
+ * store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniAdd_8u_C1RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniAdd_8u_C1RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
 QVN_API QvnStatus qvniAdd_8u_C1IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
@@ -205,7 +210,12 @@ QVN_API QvnStatus qvniMul_32f_AC4IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSr
 QVN_API QvnStatus qvniMul_32f_AC4IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
 
 /* Image and constant: AddC gives src + value, SubC src - value, MulC
- * src * value; C3 and AC4 take 3 values, C4 takes 4. Steps are not tested. */
+ * src * value; C3 and AC4 take 3 values, C4 takes 4. AC4 keeps alpha as
+ * the two-source forms do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniAddC_8u_C1RSfs(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniAddC_8u_C1RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u value, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
 QVN_API QvnStatus qvniAddC_8u_C1IRSfs(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
@@ -402,7 +412,10 @@ QVN_API QvnStatus qvniMulC_32f_AC4IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, Qv
 /* Division: Div gives src2 / src1 (source 1 is the divisor), rounded to
  * nearest with ties to even after the scale factor. A zero divisor gives 0
  * for a zero dividend, else the maximum of the type (16s: the minimum for a
- * negative dividend), and qvnWarnDivByZero; 32f gives +-infinity or NaN. */
+ * negative dividend), and qvnWarnDivByZero; 32f gives +-infinity or NaN.
+ * AC4 keeps alpha as Add does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
 QVN_API QvnStatus qvniDiv_8u_C1RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniDiv_8u_C1RSfs_L(const Qvn8u* pSrc1, QvnSizeL src1Step, const Qvn8u* pSrc2, QvnSizeL src2Step, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
 QVN_API QvnStatus qvniDiv_8u_C1IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
@@ -468,8 +481,11 @@ QVN_API QvnStatus qvniDiv_32f_AC4R_L(const Qvn32f* pSrc1, QvnSizeL src1Step, con
 QVN_API QvnStatus qvniDiv_32f_AC4IR(const Qvn32f* pSrc, int srcStep, Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniDiv_32f_AC4IR_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
 
-/* Image by constant: src / value; a zero constant (of the channels the layout
- * uses) is refused with qvnErrDivByZero. */
+/* Image by constant: src / value, rounded as Div. AC4 keeps alpha as Add
+ * does; its fourth constant is not read.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a zero constant in a
+ * channel the layout uses (qvnErrDivByZero). */
 QVN_API QvnStatus qvniDivC_8u_C1RSfs(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniDivC_8u_C1RSfs_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u value, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize, int scaleFactor);
 QVN_API QvnStatus qvniDivC_8u_C1IRSfs(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, int scaleFactor);
@@ -536,8 +552,13 @@ QVN_API QvnStatus qvniDivC_32f_AC4IR(const Qvn32f* pValue, Qvn32f* pSrcDst, int 
 QVN_API QvnStatus qvniDivC_32f_AC4IR_L(const Qvn32f* pValue, Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL roiSize);
 
 /* src2 / (src1 * 2^scaleFactor) in single precision, rounded by rndMode
- * (qvnRndZero, qvnRndNear, qvnRndFinancial). The rounding control of the
- * calling thread is set for the call and restored. */
+ * (qvnRndZero, qvnRndNear, qvnRndFinancial). A zero divisor gives 0 for a
+ * zero dividend, else the maximum of the type whatever the dividend's sign
+ * (unlike Div), and qvnWarnDivByZero. The rounding control of the calling
+ * thread is set for the call and restored. AC4 keeps alpha as Add does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a rounding mode other
+ * than 0, 1, 2 (qvnErrRounding). */
 QVN_API QvnStatus qvniDiv_Round_8u_C1RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
 QVN_API QvnStatus qvniDiv_Round_8u_C1IRSfs(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
 QVN_API QvnStatus qvniDiv_Round_8u_C3RSfs(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
@@ -564,7 +585,10 @@ QVN_API QvnStatus qvniDiv_Round_16s_AC4RSfs(const Qvn16s* pSrc1, int src1Step, c
 QVN_API QvnStatus qvniDiv_Round_16s_AC4IRSfs(const Qvn16s* pSrc, int srcStep, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnRounding rndMode, int scaleFactor);
 
 /* Normalised products: floor(src1 * src2 / max) and floor(src * value / max),
- * max being 255 or 65535. Steps are tested before the sizes. */
+ * max being 255 or 65535. Steps are checked before the sizes. AC4 keeps
+ * alpha as Add does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
 QVN_API QvnStatus qvniMulScale_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniMulScale_8u_C1IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniMulScale_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -598,8 +622,15 @@ QVN_API QvnStatus qvniMulCScale_16u_C4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, 
 QVN_API QvnStatus qvniMulCScale_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniMulCScale_16u_AC4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 
-/* src * value[channel] in double precision; integer results are limited to
- * the type and rounded by rndMode. The hint is accepted and not used. */
+/* src * value[channel] in double precision, narrowed to single precision and
+ * limited to the range of the type: 32f products beyond the largest float
+ * give that float (NaN stays NaN); integer results are rounded by rndMode.
+ * Every valid hint gives the same result.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a rounding mode other than 0, 1, 2 (qvnErrRounding);
+ * an invalid accuracy hint (qvnErrAlgorithm). Steps are not checked: a
+ * negative step walks the rows upward, 0 repeats one row, a step shorter than
+ * a row overlaps rows ("steps" in qvnip_types.h). */
 QVN_API QvnStatus qvniMulC64f_8u_C1R(const Qvn8u* pSrc, int srcStep, const Qvn64f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
 QVN_API QvnStatus qvniMulC64f_8u_C1IR(const Qvn64f* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);
 QVN_API QvnStatus qvniMulC64f_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn64f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint, QvnRounding rndMode);

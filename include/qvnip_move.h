@@ -8,10 +8,15 @@
 QVN_BEGIN_DECLS
 
 
-/* Widening conversions: every value is copied exactly. AC4 leaves the
- * destination's alpha as it is. Steps are not tested. Large C1, C3 and C4
- * images of 8s to 32s or 32f, 16u or 16s to 32f, and C1 images of 8u to 16s,
- * 32s or 32f are written with cache-bypassing stores. */
+/* Widening conversions: every value is copied exactly. AC4 never changes the
+ * destination's alpha (the vector code may store it back as it read it; see
+ * qvnip_types.h). Large C1, C3 and C4 images of 8s to 32s or 32f, 16u or 16s
+ * to 32f, and C1 images of 8u to 16s, 32s or 32f are written with
+ * cache-bypassing stores.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniConvert_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_8u16u_C3R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_8u16u_C4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -54,7 +59,11 @@ QVN_API QvnStatus qvniConvert_16s32f_C4R(const Qvn16s* pSrc, int srcStep, Qvn32f
 QVN_API QvnStatus qvniConvert_16s32f_AC4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* Narrowing integer conversions: values are saturated to the destination
- * range. Steps are not tested. */
+ * range. AC4 keeps alpha as the widening conversions do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniConvert_16u8u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_16u8u_C3R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_16u8u_C4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -76,8 +85,10 @@ QVN_API QvnStatus qvniConvert_32s8s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn8s*
  * (qvnRndZero toward zero, qvnRndNear to nearest with halves to even,
  * qvnRndFinancial to nearest with halves away from zero) and saturated; NaN
  * gives 0. The processor's rounding control is set for the call and restored
- * before it returns. Checks: pointers, width, height, steps, then the mode
- * (above 2: qvnErrRounding). */
+ * before it returns. AC4 keeps alpha as the widening conversions do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a rounding mode other
+ * than 0, 1, 2 (qvnErrRounding). */
 QVN_API QvnStatus qvniConvert_32f8u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
 QVN_API QvnStatus qvniConvert_32f8u_C3R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
 QVN_API QvnStatus qvniConvert_32f8u_C4R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
@@ -96,7 +107,11 @@ QVN_API QvnStatus qvniConvert_32f16s_C4R(const Qvn32f* pSrc, int srcStep, Qvn16s
 QVN_API QvnStatus qvniConvert_32f16s_AC4R(const Qvn32f* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode);
 
 /* One-channel conversions: exact, except 32s and 32u to 32f, which round to
- * nearest with halves to even. Steps are not tested. */
+ * nearest with halves to even.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniConvert_8s16s_C1R(const Qvn8s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_8s64f_C1R(const Qvn8s* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_16u32u_C1R(const Qvn16u* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -104,7 +119,11 @@ QVN_API QvnStatus qvniConvert_32s32f_C1R(const Qvn32s* pSrc, int srcStep, Qvn32f
 QVN_API QvnStatus qvniConvert_32u32f_C1R(const Qvn32u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* Saturating signed-to-unsigned conversions: negative values become 0, the
- * others are copied. Steps are not tested. */
+ * others are copied.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniConvert_8s8u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_8s16u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniConvert_8s32u_C1Rs(const Qvn8s* pSrc, int srcStep, Qvn32u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -114,7 +133,9 @@ QVN_API QvnStatus qvniConvert_32s32u_C1Rs(const Qvn32s* pSrc, int srcStep, Qvn32
 
 /* Scaled integer conversions: each value is multiplied by 2^-scaleFactor
  * (any factor; a negative one multiplies by a power of two), rounded to
- * nearest with halves to even and saturated. Checks: pointers, ROI, steps. */
+ * nearest with halves to even and saturated.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
 QVN_API QvnStatus qvniConvert_8u8s_C1RSfs(const Qvn8u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniConvert_16u8s_C1RSfs(const Qvn16u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
 QVN_API QvnStatus qvniConvert_16u16s_C1RSfs(const Qvn16u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, int scaleFactor);
@@ -131,8 +152,11 @@ QVN_API QvnStatus qvniConvert_32u32s_C1RSfs(const Qvn32u* pSrc, int srcStep, Qvn
  * then values not below the destination maximum give the maximum, values not
  * above its minimum give the minimum, NaN gives 0, and the rest is rounded by
  * roundMode. Any scale factor gives the exactly scaled value, however far it
- * lies outside the exponent range. Checks: pointers, ROI, steps, then the
- * mode. The in-place 32f to 32u form reuses the source memory. */
+ * lies outside the exponent range. The in-place 32f to 32u form reuses the
+ * source memory.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a rounding mode other
+ * than 0, 1, 2 (qvnErrRounding). */
 QVN_API QvnStatus qvniConvert_32f8u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
 QVN_API QvnStatus qvniConvert_32f8s_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
 QVN_API QvnStatus qvniConvert_32f16u_C1RSfs(const Qvn32f* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRounding roundMode, int scaleFactor);
@@ -147,7 +171,9 @@ QVN_API QvnStatus qvniConvert_32f32u_C1IRSfs(Qvn32f* pSrcDst, int srcDstStep, Qv
 
 /* Range mapping from 8u: d = s * 257 (16u), s * 257 - 32768 (16s),
  * s * 16843009 - 2147483648 (32s), so 0 and 255 map to the ends of the
- * destination range. Checks: pointers, ROI, steps. */
+ * destination range. AC4 keeps alpha as the widening conversions do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
 QVN_API QvnStatus qvniScale_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniScale_8u16u_C3R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniScale_8u16u_C4R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -163,7 +189,11 @@ QVN_API QvnStatus qvniScale_8u32s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32s* p
 
 /* Range mapping to 8u: the source type's range onto 0..255, d = (s - min) /
  * 257 (16u, 16s) or / 16843009 (32s), rounded to nearest (never a tie). Every
- * hint gives this exact result. Checks: pointers, ROI, steps, hint. */
+ * valid hint gives this exact result. AC4 keeps alpha as the widening
+ * conversions do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); an invalid accuracy hint
+ * (qvnErrAlgorithm). */
 QVN_API QvnStatus qvniScale_16u8u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
 QVN_API QvnStatus qvniScale_16u8u_C3R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
 QVN_API QvnStatus qvniScale_16u8u_C4R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAccuracyHint hint);
@@ -180,8 +210,10 @@ QVN_API QvnStatus qvniScale_32s8u_AC4R(const Qvn32s* pSrc, int srcStep, Qvn8u* p
 /* Range mapping with float bounds. 8u to 32f: d = s * ((vMax - vMin) / 255)
  * + vMin. 32f to 8u: d = s * k + b with k = 255 / (vMax - vMin) and b = -vMin
  * * k, clamped to 0..255 and rounded to nearest with halves to even (NaN
- * gives 0); all in float. vMax - vMin not greater than 0 gives
- * qvnErrScaleRange before any other check; then pointers, ROI, steps. */
+ * gives 0); all in float. AC4 keeps alpha as the widening conversions do.
+ * Checks, in order: vMax - vMin not above 0 (qvnErrScaleRange), before any
+ * other; a null pointer (qvnErrNullPointer); a width or height below 1
+ * (qvnErrSize); a step below 1 (qvnErrStep). */
 QVN_API QvnStatus qvniScale_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
 QVN_API QvnStatus qvniScale_8u32f_C3R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
 QVN_API QvnStatus qvniScale_8u32f_C4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f vMin, Qvn32f vMax);
@@ -193,8 +225,10 @@ QVN_API QvnStatus qvniScale_32f8u_AC4R(const Qvn32f* pSrc, int srcStep, Qvn8u* p
 
 /* Linear mapping d = s * mVal + aVal, computed in double; integer results are
  * rounded to nearest with halves to even and saturated (NaN gives 0), 32f
- * results rounded to nearest. Every hint gives this result. Checks: pointers,
- * ROI, steps, hint. */
+ * results rounded to nearest. Every valid hint gives this result.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); an invalid accuracy hint
+ * (qvnErrAlgorithm). */
 QVN_API QvnStatus qvniScaleC_8u8s_C1R(const Qvn8u* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
 QVN_API QvnStatus qvniScaleC_8u16u_C1R(const Qvn8u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
 QVN_API QvnStatus qvniScaleC_8u16s_C1R(const Qvn8u* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn64f mVal, Qvn64f aVal, QvnAccuracyHint hint);
@@ -255,8 +289,10 @@ QVN_API QvnStatus qvniScaleC_64f_C1IR(Qvn64f* pSrcDst, int srcDstStep, QvnRoiSiz
 /* 1-bit to grey: each pixel becomes hiVal where its bit is 1, loVal where it
  * is 0. Eight pixels per byte, the first in the most significant bit;
  * srcBitOffset (0..7) is the bit of the first ROI pixel, counted from the
- * most significant one. Checks: pointers, ROI, steps, then the offset
- * (outside 0..7: qvnErrArgRange). */
+ * most significant one.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a bit offset outside 0..7
+ * (qvnErrArgRange). */
 QVN_API QvnStatus qvniBinToGray_1u8u_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u loVal, Qvn8u hiVal);
 QVN_API QvnStatus qvniBinToGray_1u16u_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u loVal, Qvn16u hiVal);
 QVN_API QvnStatus qvniBinToGray_1u16s_C1R(const Qvn8u* pSrc, int srcStep, int srcBitOffset, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s loVal, Qvn16s hiVal);
@@ -265,15 +301,21 @@ QVN_API QvnStatus qvniBinToGray_1u32f_C1R(const Qvn8u* pSrc, int srcStep, int sr
 /* Grey to 1-bit: a pixel greater than threshold sets its bit, any other
  * (NaN too) clears it. Bits are packed as for qvniBinToGray from dstBitOffset
  * on; bits of the first and last byte of a row outside the ROI keep their
- * value. Checks: pointers, ROI, steps, then the offset (outside 0..7:
- * qvnErrArgRange). */
+ * value (those bytes are read and written whole).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a bit offset outside 0..7
+ * (qvnErrArgRange). */
 QVN_API QvnStatus qvniGrayToBin_8u1u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn8u threshold);
 QVN_API QvnStatus qvniGrayToBin_16u1u_C1R(const Qvn16u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn16u threshold);
 QVN_API QvnStatus qvniGrayToBin_16s1u_C1R(const Qvn16s* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn16s threshold);
 QVN_API QvnStatus qvniGrayToBin_32f1u_C1R(const Qvn32f* pSrc, int srcStep, Qvn8u* pDst, int dstStep, int dstBitOffset, QvnRoiSize roiSize, Qvn32f threshold);
 
-/* Copies the ROI; AC4 leaves the destination alpha as it is. Steps are not
- * tested. */
+/* Copies the ROI. AC4 never changes the destination's alpha (the vector
+ * code may store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
 QVN_API QvnStatus qvniCopy_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -316,7 +358,13 @@ QVN_API QvnStatus qvniCopy_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDs
 QVN_API QvnStatus qvniCopy_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL roiSize);
 
 /* Masked copy: a pixel is copied where its element of the 8u mask (of the
- * ROI's size) is non-zero and keeps its contents where it is zero. */
+ * ROI's size) is non-zero and keeps its value where it is zero (AC4: and the
+ * alpha of every pixel); in blocks of 16 pixels with a mixed mask the vector
+ * code stores kept bytes back as it read them (qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C1MR(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 QVN_API QvnStatus qvniCopy_8u_C3MR(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 QVN_API QvnStatus qvniCopy_8u_C4MR(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
@@ -338,7 +386,11 @@ QVN_API QvnStatus qvniCopy_32f_C3MR(const Qvn32f* pSrc, int srcStep, Qvn32f* pDs
 QVN_API QvnStatus qvniCopy_32f_C4MR(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 QVN_API QvnStatus qvniCopy_32f_AC4MR(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 
-/* One channel out: pSrc addresses the chosen channel of the first ROI pixel. */
+/* One channel out: pSrc addresses the chosen channel of the first ROI pixel.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C3C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_8u_C4C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16u_C3C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -351,7 +403,12 @@ QVN_API QvnStatus qvniCopy_32f_C3C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pD
 QVN_API QvnStatus qvniCopy_32f_C4C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* One channel in: pDst addresses the chosen channel of the first ROI pixel;
- * the other channels are not written. */
+ * the other channels never change (the vector code may store them back as
+ * it read them; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C1C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_8u_C1C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16u_C1C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -363,7 +420,12 @@ QVN_API QvnStatus qvniCopy_32s_C1C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pD
 QVN_API QvnStatus qvniCopy_32f_C1C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_32f_C1C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
-/* One channel to the same channel: both pointers address it. */
+/* One channel to the same channel: both pointers address it; the other
+ * channels are kept as by the one-channel insert.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C3CR(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_8u_C4CR(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16u_C3CR(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
@@ -376,7 +438,12 @@ QVN_API QvnStatus qvniCopy_32f_C3CR(const Qvn32f* pSrc, int srcStep, Qvn32f* pDs
 QVN_API QvnStatus qvniCopy_32f_C4CR(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* The colour channels of four-element pixels to three-element pixels and
- * back; C3AC4 does not write the destination alpha. */
+ * back; C3AC4 never changes the destination alpha (the vector code may store
+ * it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_AC4C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16u_AC4C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16s_AC4C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
@@ -388,7 +455,11 @@ QVN_API QvnStatus qvniCopy_16s_C3AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* p
 QVN_API QvnStatus qvniCopy_32s_C3AC4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_32f_C3AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
-/* Interleaved pixels to planes and back; one step serves every plane. */
+/* Interleaved pixels to planes and back; one step serves every plane.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopy_8u_C3P3R(const Qvn8u* pSrc, int srcStep, Qvn8u* const pDst[3], int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16u_C3P3R(const Qvn16u* pSrc, int srcStep, Qvn16u* const pDst[3], int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniCopy_16s_C3P3R(const Qvn16s* pSrc, int srcStep, Qvn16s* const pDst[3], int dstStep, QvnRoiSize roiSize);
@@ -411,44 +482,81 @@ QVN_API QvnStatus qvniCopy_32s_P4C4R(const Qvn32s* const pSrc[4], int srcStep, Q
 QVN_API QvnStatus qvniCopy_32f_P4C4R(const Qvn32f* const pSrc[4], int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* Copies the ROI. flags: 2 writes with non-temporal stores (for a destination
- * that will not be read soon); other bits are ignored. */
+ * that will not be read soon); other bits are ignored.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniCopyManaged_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, int flags);
 
-/* Every destination channel receives the source pixel's value. */
+/* Every destination channel receives the source pixel's value.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniDup_8u_C1C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniDup_8u_C1C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 
-/* Destination channel i receives source channel dstOrder[i]. Only a zero step
- * is an error; entries naming no source channel give qvnErrChannelOrder. */
+/* Destination channel i receives source channel dstOrder[i]: three entries
+ * 0..2 for C3, four entries 0..3 for C4.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step of 0 (qvnErrStep; negative steps are used as
+ * given); a channel-order entry out of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32s_C3R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
+
+/* Checks, in order: a null pSrc or pDst (qvnErrNullPointer); a step of 0
+ * (qvnErrStep; negative steps are used as given); a width or height below 1
+ * (qvnErrSize); a null dstOrder (qvnErrNullPointer); a channel-order entry out
+ * of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 QVN_API QvnStatus qvniSwapChannels_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 QVN_API QvnStatus qvniSwapChannels_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 QVN_API QvnStatus qvniSwapChannels_32s_C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 QVN_API QvnStatus qvniSwapChannels_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 
-/* AC4: three entries 0..2; the destination alpha is not changed. */
+/* AC4: three entries 0..2; the destination alpha never changes (the vector
+ * code may store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pSrc or pDst (qvnErrNullPointer); a step of 0
+ * (qvnErrStep; negative steps are used as given); a width or height below 1
+ * (qvnErrSize); a null dstOrder (qvnErrNullPointer); a channel-order entry out
+ * of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
+
+/* Checks, in order: a null pSrcDst (qvnErrNullPointer); a step of 0
+ * (qvnErrStep; negative steps are used as given); a width or height below 1
+ * (qvnErrSize); a null dstOrder (qvnErrNullPointer); a channel-order entry out
+ * of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const int dstOrder[3]);
+
+/* Checks, in order: a null pointer (qvnErrNullPointer); a step of 0
+ * (qvnErrStep; negative steps are used as given); a width or height below 1
+ * (qvnErrSize); a channel-order entry out of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const int dstOrder[4]);
 
-/* Three entries 0..3: the source alpha may go into a colour channel. */
+/* Three entries 0..3: the source alpha may go into a colour channel.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step of 0 (qvnErrStep; negative steps are used as
+ * given); a channel-order entry out of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C4C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16u_C4C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_16s_C4C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32s_C4C3R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 QVN_API QvnStatus qvniSwapChannels_32f_C4C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[3]);
 
-/* Four entries: 0..2 copies that source channel, 3 writes val, above 3 leaves
- * the destination channel unchanged; a negative entry is an error. */
+/* Four entries: 0..2 copies that source channel, 3 writes val, above 3 keeps
+ * the destination channel (the vector code may store it back as it read it;
+ * see qvnip_types.h); a negative entry is an error.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step of 0 (qvnErrStep; negative steps are used as
+ * given); a channel-order entry out of range (qvnErrChannelOrder). */
 QVN_API QvnStatus qvniSwapChannels_8u_C3C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn8u val);
 QVN_API QvnStatus qvniSwapChannels_16u_C3C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn16u val);
 QVN_API QvnStatus qvniSwapChannels_16s_C3C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn16s val);
@@ -456,7 +564,12 @@ QVN_API QvnStatus qvniSwapChannels_32s_C3C4R(const Qvn32s* pSrc, int srcStep, Qv
 QVN_API QvnStatus qvniSwapChannels_32f_C3C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn32f val);
 
 /* Fills the ROI with one value (C1) or one pixel (C3 and AC4: 3 values, C4: 4
- * values); AC4 leaves alpha as it is. Steps are not tested. */
+ * values). AC4 never changes the destination's alpha (the vector code may
+ * store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniSet_8u_C1R(Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniSet_16u_C1R(Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniSet_16s_C1R(Qvn16s value, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
@@ -479,7 +592,12 @@ QVN_API QvnStatus qvniSet_32f_C4R(const Qvn32f* value, Qvn32f* pDst, int dstStep
 QVN_API QvnStatus qvniSet_32f_AC4R(const Qvn32f* value, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 
 /* Masked fills: a pixel takes the value where its element of the 8u mask (of
- * the ROI's size) is non-zero and keeps its contents where it is zero. */
+ * the ROI's size) is non-zero and keeps its value where it is zero (AC4: and
+ * the alpha of every pixel); kept bytes are handled as by the masked copy.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniSet_8u_C1MR(Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 QVN_API QvnStatus qvniSet_16u_C1MR(Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 QVN_API QvnStatus qvniSet_16s_C1MR(Qvn16s value, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
@@ -502,7 +620,12 @@ QVN_API QvnStatus qvniSet_32f_C4MR(const Qvn32f* value, Qvn32f* pDst, int dstSte
 QVN_API QvnStatus qvniSet_32f_AC4MR(const Qvn32f* value, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pMask, int maskStep);
 
 /* Fills one channel: pDst addresses that channel of the first ROI pixel; the
- * other channels are not written. */
+ * other channels never change (the vector code may store them back as it
+ * read them; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
 QVN_API QvnStatus qvniSet_8u_C3CR(Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniSet_8u_C4CR(Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniSet_16u_C3CR(Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);

@@ -57,56 +57,84 @@ typedef struct { int x; int y; } QvnPoint;
 typedef struct { int x; int y; int width; int height; } QvnRect;
 
 /* ---- status codes ------------------------------------------------------
- * 0 is success, a negative value an error (nothing was written), a positive
- * value a warning (the result was written and is defined). */
+ * 0 is success, a negative value an error (the call wrote nothing), a
+ * positive value a warning (the result was written and is defined, but
+ * something about it is special). Each family's header text says which
+ * checks it makes, in which order; the first failing check decides. */
 typedef int QvnStatus;
 enum {
-    qvnOk                   = 0,
-    qvnWarnNoOperation      = 1,
-    qvnWarnDivByZero        = 2,
-    qvnWarnSqrtNegative     = 3,
-    qvnWarnLnZeroArg        = 7,
-    qvnWarnAntialiasIgnored = 46,
-    qvnWarnTileTooLarge     = 48,
-    qvnWarnModeIgnored      = 52,
+    qvnOk                   = 0,    /* success */
+    qvnWarnNoOperation      = 1,    /* an initialiser got a zero width or height: nothing set up, not an error */
+    qvnWarnDivByZero        = 2,    /* a divisor was zero: all pixels written, those with the documented value */
+    qvnWarnSqrtNegative     = 3,    /* a square root met a negative input; every pixel is written */
+    qvnWarnLnZeroArg        = 7,    /* a logarithm met a zero input; every pixel is written */
+    qvnWarnAntialiasIgnored = 46,   /* antialiasing was asked of a resize kind that has none; done without it */
+    qvnWarnTileTooLarge     = 48,   /* a resize tile reaches beyond the destination size in the spec; done anyway */
+    qvnWarnModeIgnored      = 52,   /* a filter initialiser's accuracy flag does not apply to this type and layout */
 
-    qvnErrThreshold         = -5,
-    qvnErrSize              = -6,
-    qvnErrBounds            = -7,
-    qvnErrNullPointer       = -8,
-    qvnErrDivByZero         = -10,
-    qvnErrArgRange          = -11,
-    qvnErrScaleRange        = -12,
-    qvnErrBadSpec           = -13,
-    qvnErrBadMode           = -14,
-    qvnErrStep              = -16,
-    qvnErrFftOrder          = -17,
-    qvnErrFftFlag           = -18,
-    qvnErrThresholdOrder    = -19,
-    qvnErrAxis              = -22,
-    qvnErrInterpolationKind = -23,
-    qvnErrMaskSize          = -33,
-    qvnErrAnchor            = -34,
-    qvnErrEpsilon           = -36,
-    qvnErrStepTooSmall      = -37,
-    qvnErrChannel           = -47,
-    qvnErrAlphaKind         = -50,
-    qvnErrDivisor           = -51,
-    qvnErrChannelCount      = -53,
-    qvnErrCoeffs            = -56,
-    qvnErrDataType          = -59,
-    qvnErrChannelOrder      = -60,
-    qvnErrLutLevels         = -106,
-    qvnErrHistLevels        = -107,
-    qvnErrStepMultiple      = -108,
-    qvnErrNoise             = -125,
-    qvnErrWeight            = -211,
-    qvnErrRounding          = -213,
-    qvnErrBorderKind        = -225,
-    qvnErrAlgorithm         = -228,
-    qvnErrDirection         = -231,
-    qvnErrSizeOverflow      = -232
+    qvnErrThreshold         = -5,   /* a float threshold below single-precision epsilon (1.1920929e-7) */
+    qvnErrSize              = -6,   /* a width or height below 1 (of the ROI, the source or the destination) */
+    qvnErrBounds            = -7,   /* a lower bound above its upper bound, in any channel */
+    qvnErrNullPointer       = -8,   /* a required pointer is null */
+    qvnErrDivByZero         = -10,  /* a constant divisor is zero (integer or float division by a constant) */
+    qvnErrArgRange          = -11,  /* an integer argument outside its allowed range (say a bit offset above 7) */
+    qvnErrScaleRange        = -12,  /* a value range whose maximum is not above its minimum */
+    qvnErrBadSpec           = -13,  /* a spec that was not built for this operation or these parameters */
+    qvnErrBadMode           = -14,  /* an option, or a combination of options, that the operation does not offer */
+    qvnErrStep              = -16,  /* a row step below 1 (some families: only a step of 0) */
+    qvnErrFftOrder          = -17,  /* an FFT order of 31 or more in either direction */
+    qvnErrFftFlag           = -18,  /* an FFT or DFT normalisation flag other than 1, 2, 4 or 8 */
+    qvnErrThresholdOrder    = -19,  /* an upper threshold below the lower one, in any channel */
+    qvnErrAxis              = -22,  /* a mirror axis other than 0, 1 or 2 */
+    qvnErrInterpolationKind = -23,  /* an interpolation kind that the operation does not offer */
+    qvnErrMaskSize          = -33,  /* a mask, window or kernel width or height below 1 */
+    qvnErrAnchor            = -34,  /* an anchor outside its mask (negative, or not below the mask's size) */
+    qvnErrEpsilon           = -36,  /* a negative epsilon */
+    qvnErrStepTooSmall      = -37,  /* a row step shorter than the bytes that one row of the operation needs */
+    qvnErrChannel           = -47,  /* a channel count outside 1..4 given to a filter's size query */
+    qvnErrAlphaKind         = -50,  /* an alpha-composition kind above 11 */
+    qvnErrDivisor           = -51,  /* a zero divisor of an integer convolution */
+    qvnErrChannelCount      = -53,  /* a channel count other than 1, 3 or 4 */
+    qvnErrCoeffs            = -56,  /* transform coefficients that are singular or degenerate */
+    qvnErrDataType          = -59,  /* a QvnDataType that the function does not accept */
+    qvnErrChannelOrder      = -60,  /* a channel-order entry that names no source channel */
+    qvnErrLutLevels         = -106, /* a lookup table with fewer than 2 levels */
+    qvnErrHistLevels        = -107, /* a histogram with fewer than 2 levels in some channel */
+    qvnErrStepMultiple      = -108, /* a row step that is not a whole number of elements (16-bit median filters) */
+    qvnErrNoise             = -125, /* a noise level below 0 or not below 1 */
+    qvnErrWeight            = -211, /* a centre weight of 0 or less */
+    qvnErrRounding          = -213, /* a QvnRounding other than 0, 1 or 2 */
+    qvnErrBorderKind        = -225, /* a QvnBorderKind (with its flags) that the operation does not support */
+    qvnErrAlgorithm         = -228, /* a QvnAccuracyHint whose kind (low byte) is above 2, or with a bit of 16..23 set */
+    qvnErrDirection         = -231, /* a warp direction other than 0 (forward) or 1 (backward) */
+    qvnErrSizeOverflow      = -232  /* a derived size too large: work buffer over 2^31-1 bytes, dimension over 2^25-1 */
 };
+
+/* ---- steps ---------------------------------------------------------------
+ * A step is the distance in bytes from the start of one row to the start of
+ * the next: row y of an image starts y x step bytes after its pointer. The
+ * families that check steps refuse a step below 1 with qvnErrStep (the
+ * channel-order family refuses only 0). The others use any step as given:
+ *  - a negative step walks the rows upward in memory (a bottom-up image:
+ *    pass its last row and minus its step);
+ *  - a step of 0 makes every row of the ROI the same memory row: a source
+ *    row is read once per ROI row, a destination row is written once per ROI
+ *    row (an in-place call applies its operation that many times over);
+ *  - a step shorter than a row makes rows overlap: rows are done from the
+ *    first to the last, so bytes that destination rows share keep the last
+ *    row's result, and a row may read what the rows before it wrote.
+ * In every case only the bytes of the ROI that pointer, step and size
+ * describe are touched.
+ *
+ * ---- bytes that a call leaves as they are ---------------------------------
+ * Some calls change only some channels of each destination pixel: the fourth
+ * element of AC4 pixels, the other channels of a one-channel insert or fill
+ * (C1C3, C1C4, C3CR, C4CR), pixels whose mask element is 0 (M forms), and
+ * channels that a channel order keeps. Those bytes never change value. The
+ * vector code may however read them and store them back with the value it
+ * read, during the call: only a thread that writes the same bytes while the
+ * call runs can tell (its write may be undone). Each family's text names
+ * what it keeps. */
 
 /* ---- argument enumerations --------------------------------------------- */
 /* Element type code of functions that take the type as an argument. */

@@ -8,6 +8,7 @@
 #include "qvncore.h"
 
 #include <algorithm>
+#include <atomic>
 #include <cstdint>
 
 namespace {
@@ -52,13 +53,28 @@ std::uint64_t detectLargestCache() {
     return size;
 }
 
+// CPUID can cost a hundred microseconds under a hypervisor, and every large
+// fill or copy asks: the answer is a constant of the machine, kept after the
+// first query. A plain atomic instead of a function-local static keeps the
+// library free of the C++ runtime's initialisation guards; threads that race
+// on the first query store the same value.
+constexpr std::uint64_t kKnown = std::uint64_t(1) << 63;
+std::atomic<std::uint64_t> cachedSize{0};
+
+std::uint64_t largestCache() {
+    std::uint64_t v = cachedSize.load(std::memory_order_relaxed);
+    if (!(v & kKnown)) {
+        v = detectLargestCache() | kKnown;
+        cachedSize.store(v, std::memory_order_relaxed);
+    }
+    return v & ~kKnown;
+}
+
 }  // namespace
 
 QVN_API QvnStatus qvnGetMaxCacheSizeB(int* pSize) {
     if (pSize == nullptr) return qvnErrNullPointer;
-    // CPUID can cost a hundred microseconds under a hypervisor, and every large
-    // fill or copy asks: the answer is a constant of the machine, read once.
-    static const std::uint64_t size = detectLargestCache();
+    const std::uint64_t size = largestCache();
     if (size == 0) {
         *pSize = 0;
         return qvnErrBadMode;  // unknown: callers fall back to ordinary stores

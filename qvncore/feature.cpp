@@ -3,6 +3,7 @@
 #include "cpuid.h"
 #include "qvncore.h"
 
+#include <atomic>
 #include <cstdint>
 
 namespace {
@@ -41,11 +42,21 @@ std::uint64_t detectFeatures() {
     return f;
 }
 
+// CPUID is slow under a hypervisor; the features are read once and kept in a
+// plain atomic (no function-local static: the library needs no C++ runtime).
+// Bit 63 marks the value as read; racing first queries store the same value.
+constexpr std::uint64_t kKnown = std::uint64_t(1) << 63;
+std::atomic<std::uint64_t> cachedFeatures{0};
+
 }  // namespace
 
 QVN_API int ownGetFeature(Qvn64s mask) {
-    // CPUID is slow under a hypervisor; the features are read once.
-    static const std::uint64_t features = detectFeatures();
+    std::uint64_t features = cachedFeatures.load(std::memory_order_relaxed);
+    if (!(features & kKnown)) {
+        features = detectFeatures() | kKnown;
+        cachedFeatures.store(features, std::memory_order_relaxed);
+    }
+    features &= ~kKnown;
     const std::uint64_t want = static_cast<std::uint64_t>(mask);
     return want != 0 && (features & want) == want;
 }

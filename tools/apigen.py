@@ -44,13 +44,17 @@ impl     the C++ callable that implements the name, looked up with the
 '@shape name | return | parameters | call' defines a shape next to the rows
 that use it (shapes.txt holds the ones several tables share).
 Lines starting with '##' are documentation: they precede the next row's
-declarations in the header. '@include <path>' names a header that the
+declarations in the header, followed by a sentence that the checks column
+spells out (which arguments are checked, in order, with their status codes,
+and what happens to steps that are not checked). A row without '##' lines
+gets that sentence alone when its checks differ from the row before. '@include <path>' names a header that the
 wrappers of this table file need. '#' starts a comment.
 """
 import argparse
 import os
 import re
 import sys
+import textwrap
 
 CTYPES = {
     "1u": "Qvn8u", "8u": "Qvn8u", "8s": "Qvn8s", "16u": "Qvn16u", "16s": "Qvn16s",
@@ -134,10 +138,11 @@ def read_shapes(path, tables):
 
 
 class Entry:
-    def __init__(self, name, sub, ret, params, call, impl, checks, doc, src):
+    def __init__(self, name, sub, ret, params, call, impl, checks, doc, src, first):
         self.name, self.sub, self.ret = name, sub, ret
         self.params, self.call, self.impl = params, call, impl
         self.checks, self.doc, self.src = checks, doc, src
+        self.first = first  # the first name of its table row
 
     def declaration(self):
         args = ", ".join(p.decl for p in self.params) or "void"
@@ -196,10 +201,51 @@ def expand_table(path, sub, shapes):
                             shard = split_type(t)[0] if t else "x"
                             entries.append(Entry(name, sub, subst(ret, values), params, callargs,
                                                  subst(impl, values), checks, row_doc,
-                                                 (os.path.basename(path), shard)))
+                                                 (os.path.basename(path), shard), row_doc is doc))
                             row_doc = []
             doc = []
     return entries, includes
+
+
+# What each token of the checks column tests, for the header text.
+CHECK_WORDS = {
+    "ptr": "a null pointer (qvnErrNullPointer)",
+    "roi": "a width or height below 1 (qvnErrSize)",
+    "step": "a step below 1 (qvnErrStep)",
+    "step0": "a step of 0 (qvnErrStep; negative steps are used as given)",
+    "rnd": "a rounding mode other than 0, 1, 2 (qvnErrRounding)",
+    "rounding": "a rounding mode other than 0, 1, 2 (qvnErrRounding)",
+    "hint": "an invalid accuracy hint (qvnErrAlgorithm)",
+    "const": "a zero constant in a channel the layout uses (qvnErrDivByZero)",
+    "order": "a channel-order entry out of range (qvnErrChannelOrder)",
+    "bitoffset": "a bit offset outside 0..7 (qvnErrArgRange)",
+}
+UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
+                   "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")
+
+
+def checks_note(e):
+    """The checks column of e's row as a sentence; empty for '-'."""
+    if e.checks == "-":
+        return ""
+    words = []
+    for tok in [t.strip() for t in e.checks.split(",")]:
+        m = re.match(r"^ptr\(([\w\s]+)\)$", tok)
+        if m:
+            words.append(f"a null {' or '.join(m.group(1).split())} (qvnErrNullPointer)")
+        elif tok in CHECK_WORDS:
+            words.append(CHECK_WORDS[tok])
+        else:
+            raise TableError(f"{e.name}: no words for the check {tok!r}")
+    text = "Checks, in order: " + "; ".join(words) + "."
+    checked = {t.strip() for t in e.checks.split(",")}
+    if any(p.role == "step" for p in e.params) and not checked & {"step", "step0"}:
+        text += " " + UNCHECKED_STEPS
+    return text
+
+
+def comment(lines):
+    return "/* " + "\n * ".join(lines) + " */"
 
 
 def header_text(sub, entries):
@@ -208,10 +254,17 @@ def header_text(sub, entries):
            " * edit the table, not this file. */",
            f"#ifndef {guard}", f"#define {guard}", "", '#include "qvnip_types.h"', "",
            "QVN_BEGIN_DECLS", ""]
+    last_note = None
     for e in entries:
-        if e.doc:
-            out.append("")
-            out.append("/* " + "\n * ".join(e.doc) + " */")
+        if e.first:
+            note = checks_note(e)
+            lines = list(e.doc)
+            if note and (e.doc or note != last_note):
+                lines += textwrap.wrap(note, 76)
+            if lines:
+                out.append("")
+                out.append(comment(lines))
+            last_note = note
         out.append(e.declaration())
     out += ["", "QVN_END_DECLS", "", f"#endif /* {guard} */", ""]
     return "\n".join(out)

@@ -38,14 +38,16 @@ inline QvnStatus mulConstScale(const T* src, std::int64_t srcStep, const T* valu
 }
 
 // src * value[channel] in double precision; integer forms set the rounding
-// control for the call from the mode and restore it after. Pointers, ROI, then the
-// rounding mode; the accuracy hint selects nothing in this implementation.
+// control for the call from the mode and restore it after. Pointers, ROI, the
+// rounding mode, then the accuracy hint, which is validated but selects
+// nothing: every valid hint gives the same result.
 template <class T, class L>
 inline QvnStatus mulConst64f(const T* src, std::int64_t srcStep, const Qvn64f* value, T* dst, std::int64_t dstStep,
-                             RoiL roi, int /*hint*/, int rndMode) {
+                             RoiL roi, int hint, int rndMode) {
     QVN_TRY(check::ptrs(src, value, dst));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::rounding(rndMode));
+    QVN_TRY(check::hint(hint));
     constexpr int E = L::kElems;
     double c[E];
     for (int k = 0; k < E; ++k) c[k] = value[k];

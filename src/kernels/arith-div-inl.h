@@ -99,6 +99,17 @@ struct DivKernel : ZeroWatch<T> {
 template <class T>
 inline bool divNeedsDouble(int sf) { return sizeof(T) > 1 && sf < 0; }
 
+// What a zero divisor gives in the division with a rounding mode: 0 for a zero
+// dividend, else the maximum of T, whatever the dividend's sign.
+template <class T>
+inline T zeroDivisorMax(T x) {
+    return x == 0 ? T(0) : std::numeric_limits<T>::max();
+}
+template <class T>
+inline V<T> zeroDivisorMax(V<T> x) {
+    return isa::andNot(isa::cmpEq(x, isa::zero<T>()), isa::set1<T>(std::numeric_limits<T>::max()));
+}
+
 // Division with a rounding mode: q = x / (y * 2^sf) in single precision,
 // limited to the range of T, then rounded by the rounding control (toward zero
 // for modes 0 and 2, nearest for mode 1; the caller sets it). Mode 2 first
@@ -122,7 +133,7 @@ struct DivRoundKernel : ZeroWatch<T> {
     T scalar(T x, T y) {
         if (y == 0) {
             this->seenScalar = true;
-            return zeroDivisorResult(x);
+            return zeroDivisorMax(x);
         }
         float q = float(x) / (float(y) * scale);
         q = q < float(kMin<T>) ? float(kMin<T>) : q > float(kMax<T>) ? float(kMax<T>) : q;
@@ -140,7 +151,7 @@ struct DivRoundKernel : ZeroWatch<T> {
         widen(x, a);
         widen(y, b);
         for (int j = 0; j < kParts<int32_t, T>; ++j) a[j] = rounded(a[j], b[j]);
-        return isa::select(zero, zeroDivisorResult(x), narrow<T>(a));
+        return isa::select(zero, zeroDivisorMax(x), narrow<T>(a));
     }
 };
 

@@ -43,11 +43,12 @@ struct MulScaleKernel : Unwatched {
     }
 };
 
-// x * c in double, narrowed to single precision; integer results are then
-// limited to the range of T, moved by a half away from zero for mode 2, and
-// converted by the rounding control, which the caller sets for the mode
-// (toward zero for 0 and 2, nearest for 1) as the division with a rounding
-// mode does.
+// x * c in double, narrowed to single precision and limited to the range of
+// T: a 32f product beyond the largest float gives that float, not infinity
+// (NaN stays NaN). Integer results are then moved by a half away from zero for
+// mode 2 and converted by the rounding control, which the caller sets for the
+// mode (toward zero for 0 and 2, nearest for 1) as the division with a
+// rounding mode does.
 template <class T>
 struct MulC64fKernel {
     float half;
@@ -57,8 +58,9 @@ struct MulC64fKernel {
           hi(isa::set1(float(std::numeric_limits<T>::max()))), sign(isa::set1(-0.0f)) {}
     T scalar(T x, double c) const {
         const float f = static_cast<float>(double(x) * c);
-        if constexpr (std::is_same_v<T, float>) {
-            return f;
+        if constexpr (std::is_same_v<T, float>) {  // comparisons with NaN are false: it passes
+            const float top = std::numeric_limits<float>::max();
+            return f > top ? top : f < -top ? -top : f;
         } else {  // the operand order of the vector max and min: NaN gives the bound
             float q = f > float(std::numeric_limits<T>::lowest()) ? f : float(std::numeric_limits<T>::lowest());
             q = q < float(std::numeric_limits<T>::max()) ? q : float(std::numeric_limits<T>::max());
@@ -72,7 +74,9 @@ struct MulC64fKernel {
     // c holds the constants of the vector's lanes, as double vectors in order.
     V<T> vector(V<T> x, const V<double>* c) const {
         if constexpr (std::is_same_v<T, float>) {
-            return isa::toFloat(isa::mul(isa::toDoubleLo(x), c[0]), isa::mul(isa::toDoubleHi(x), c[1]));
+            // max and min return their second operand when one is NaN: NaN passes
+            const V<float> f = isa::toFloat(isa::mul(isa::toDoubleLo(x), c[0]), isa::mul(isa::toDoubleHi(x), c[1]));
+            return isa::min(hi, isa::max(lo, f));
         } else {
             V<int32_t> a[kParts<int32_t, T>];
             widen(x, a);

@@ -120,10 +120,12 @@ TEST(ArithDiv, FloatGroupWithZeroDivisorIsExact) {
     }
 }
 
-// Div_Round: exact rational model with the mode's tie rule.
+// Div_Round: exact rational model with the mode's tie rule. A zero divisor
+// gives the maximum of the type for any non-zero dividend (qvniDiv gives the
+// minimum for a negative one).
 template <class T>
 T roundModel(std::int64_t x, std::int64_t y, int sf, int mode) {
-    if (y == 0) return ref::divided<T>(x, 0, 0);
+    if (y == 0) return x == 0 ? T(0) : std::numeric_limits<T>::max();
     using ref::i128;
     if (y < 0) { x = -x; y = -y; }
     sf = sf > 60 ? 60 : sf < -60 ? -60 : sf;
@@ -167,6 +169,10 @@ TEST(ArithDiv, RoundModesAndRestoredControl) {
         EXPECT_EQ(qvniDiv_Round_8u_C1RSfs(&two, 1, &five, 1, &out, 1, {1, 1}, mode, 0), qvnOk);
         EXPECT_EQ(out, mode == qvnRndFinancial ? 3 : 2) << "mode " << mode;
     }
+    const Qvn16s zero = 0, minus7 = -7;
+    Qvn16s q = 0;
+    EXPECT_EQ(qvniDiv_Round_16s_C1RSfs(&zero, 2, &minus7, 2, &q, 2, {1, 1}, qvnRndNear, 0), qvnWarnDivByZero);
+    EXPECT_EQ(q, 32767);  // not the minimum that qvniDiv gives
     out = 9;
     EXPECT_EQ(qvniDiv_Round_8u_C1RSfs(&two, 1, &five, 1, &out, 1, {1, 1}, 3, 0), qvnErrRounding);
     EXPECT_EQ(qvniDiv_Round_8u_C1RSfs(&two, 0, &five, 1, &out, 1, {1, 1}, 3, 0), qvnErrStep);

@@ -51,7 +51,8 @@ T mulC64fModel(T x, double c, int mode) {
     const float f = vf;
     std::fesetround(FE_TONEAREST);
     if constexpr (std::is_same_v<T, float>) {
-        return f;
+        const float top = std::numeric_limits<float>::max();
+        return std::isnan(f) ? f : std::fmin(std::fmax(f, -top), top);
     } else {
         const float q = std::fmin(std::fmax(f, float(std::numeric_limits<T>::min())), float(std::numeric_limits<T>::max()));
         return T(mode == 0 ? std::trunc(q) : mode == 1 ? std::nearbyint(q) : std::round(q));
@@ -85,6 +86,41 @@ TEST(ArithMulC64f, EveryTypeAndMode) {
     EXPECT_EQ(qvniMulC64f_8u_C1IR(&half, &v, 1, {1, 1}, 0, qvnRndNear), qvnOk);
     EXPECT_EQ(v, 2);  // 2.5 to even
     EXPECT_EQ(qvniMulC64f_8u_C1IR(&half, &v, 1, {1, 1}, 0, 3), qvnErrRounding);
+}
+
+// 32f products beyond the float range give the largest float of their sign,
+// in the vector body (the first 16 elements, aligned) and the scalar tail.
+TEST(ArithMulC64f, FloatProductsAreClampedToTheFloatRange) {
+    const float top = std::numeric_limits<float>::max(), inf = std::numeric_limits<float>::infinity();
+    const float nan = std::numeric_limits<float>::quiet_NaN();
+    const float in[5] = {1e38f, -1e38f, inf, 3.0f, nan};
+    const float want[5] = {top, -top, top, 30.0f, nan};
+    alignas(16) float src[19], dst[19];
+    for (int i = 0; i < 19; ++i) src[i] = in[i % 5];
+    const double ten = 10.0;
+    ASSERT_EQ(qvniMulC64f_32f_C1R(src, sizeof src, &ten, dst, sizeof dst, {19, 1}, 0, qvnRndNear), qvnOk);
+    for (int i = 0; i < 19; ++i) {
+        if (std::isnan(want[i % 5])) EXPECT_TRUE(std::isnan(dst[i])) << i;
+        else EXPECT_EQ(dst[i], want[i % 5]) << i << ": " << src[i] << " x 10";
+    }
+}
+
+// The accuracy hint: a kind above 2 or a bit of 16..23 set is refused with
+// qvnErrAlgorithm, after the rounding mode, and nothing is written.
+TEST(ArithMulC64f, HintIsCheckedAfterTheRoundingMode) {
+    const double two = 2.0;
+    Qvn16s v = 7;
+    for (int hint : {3, 0xFF, 0x10000, 0x800000 | 1}) {
+        EXPECT_EQ(qvniMulC64f_16s_C1IR(&two, &v, 2, {1, 1}, hint, qvnRndNear), qvnErrAlgorithm) << hint;
+        EXPECT_EQ(qvniMulC64f_16s_C1IR(&two, &v, 2, {1, 1}, hint, 3), qvnErrRounding) << hint;
+        EXPECT_EQ(qvniMulC64f_16s_C1IR(&two, &v, 2, {0, 1}, hint, 3), qvnErrSize) << hint;
+    }
+    EXPECT_EQ(v, 7);
+    for (int hint : {qvnAlgHintNone, qvnAlgHintFast, qvnAlgHintAccurate}) {
+        v = 7;
+        EXPECT_EQ(qvniMulC64f_16s_C1IR(&two, &v, 2, {1, 1}, hint, qvnRndNear), qvnOk) << hint;
+        EXPECT_EQ(v, 14);
+    }
 }
 
 }  // namespace
