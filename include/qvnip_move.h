@@ -359,8 +359,8 @@ QVN_API QvnStatus qvniCopy_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, Qvn3
 
 /* Masked copy: a pixel is copied where its element of the 8u mask (of the
  * ROI's size) is non-zero and keeps its value where it is zero (AC4: and the
- * alpha of every pixel); in blocks of 16 pixels with a mixed mask the vector
- * code stores kept bytes back as it read them (qvnip_types.h).
+ * alpha of every pixel); in blocks with a mixed mask the vector code may
+ * store kept bytes back as it read them (qvnip_types.h).
  * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
  * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
  * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
