@@ -245,22 +245,23 @@ struct Runs {
         return first.n == b - a ? first : Side{Side::kRuns, 0, b - a, a};
     }
 
-    static void synthesize(const Source<U>& s, const Side& side, const U* srow, U* d) {
+    QVN_ALWAYS_INLINE static void synthesize(const Source<U>& s, const Side& side, const U* srow, U* d) {
         switch (side.op) {
             case Side::kNone: break;
             case Side::kValue: fill(s.value, d, side.n); break;
             case Side::kPixel: fill(srow + side.col * K, d, side.n); break;
             case Side::kForward: copy(srow + side.col * K, d, side.n); break;
             case Side::kBackward: reverse(srow + side.col * K, d, side.n, srow, s.width); break;
-            case Side::kRuns: {
-                const Period p(s);
-                for (std::int64_t x = side.a; x < side.a + side.n;) {
-                    const Side r = p.run(x, side.a + side.n - x);
-                    synthesize(s, r, srow, d);
-                    d += r.n * K, x += r.n;
-                }
-                break;
-            }
+            case Side::kRuns: runs(s, side, srow, d); break;
+        }
+    }
+    static void runs(const Source<U>& s, const Side& side, const U* srow, U* d) {
+        const Period p(s);
+        for (std::int64_t x = side.a; x < side.a + side.n;) {
+            const Side r = p.run(x, side.a + side.n - x);
+            if (r.op == Side::kForward) copy(srow + r.col * K, d, r.n);
+            else reverse(srow + r.col * K, d, r.n, srow, s.width);
+            d += r.n * K, x += r.n;
         }
     }
 

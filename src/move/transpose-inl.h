@@ -32,22 +32,22 @@ struct TransposePlan {
 };
 
 // A strip covers one 64-byte line of every source row (at least one register
-// block) for units up to 4 bytes and for 3-byte units (22 units, 66 bytes),
-// and three lines (192 bytes) for 6- and 12-byte units, which move one by
-// one: fewer strips, each going down the rows once. 8- and 16-byte units take
-// 32 and 16 units (four lines) where their destination rows spread over
-// enough cache sets for four rows a set, and one line otherwise (steps of a
-// multiple of 4 KiB would put all of them into one set). A band is 1024 rows;
-// the 32s transpose sizes it from the largest cache once its smaller side
-// reaches 257 (asking for the size then): a band's lines of a strip and the
-// next (the processor fetches lines in pairs, 128 bytes a row) fill an eighth
-// of the cache, so the next strip finds them, and their pages, at hand.
+// block) for units up to 4 bytes. 8- and 16-byte units take 32 and 16 units
+// (four lines: longer source reads, fewer page changes) where their
+// destination rows spread over enough cache sets for four rows a set, and one
+// line otherwise (steps of a multiple of 4 KiB would put every row into one
+// set). Units of 3, 6 and 12 bytes, which move one by one, take 8, 4 and 16
+// units: the fastest on 3840 x 2160 images, by far for 6 bytes, and as fast
+// as any on 512 x 512 ones. A band is 1024 rows; the 32s transpose sizes it
+// from the largest cache once its smaller side reaches 257 (asking for the
+// size then): a band's lines of a strip and the next (the processor fetches
+// lines in pairs, 128 bytes a row) fill an eighth of the cache, so the next
+// strip finds them, and their pages, at hand.
 template <class T, class L>
 inline TransposePlan transposePlan(RoiL roi, std::int64_t dstStep) {
     constexpr int kUnit = L::kElems * int(sizeof(T));
-    constexpr std::int64_t kNarrow =
-        kUnit == 6 || kUnit == 12 ? 192 / kUnit
-                                  : std::max<std::int64_t>((64 + kUnit - 1) / kUnit, kernels::TransposeUnit<kUnit>::kN);
+    constexpr std::int64_t kNarrow = kUnit == 3 ? 8 : kUnit == 6 ? 4 : kUnit == 12 ? 16
+                                   : std::max<std::int64_t>(64 / kUnit, kernels::TransposeUnit<kUnit>::kN);
     constexpr std::int64_t kWide = kUnit == 8 ? 32 : kUnit == 16 ? 16 : kNarrow;
     TransposePlan plan{4 * rowSets(dstStep) >= kWide ? kWide : kNarrow, 1024};
     if constexpr (std::is_same_v<T, Qvn32s> && L::kElems == 1) {
