@@ -16,7 +16,6 @@ QVN_BEGIN_DECLS
  * source ROI, and the destination ROI begins topBorderHeight rows above and
  * leftBorderWidth pixels left of it, at the same step; only the frame is
  * written.
- * 
  * Const: every frame pixel takes value (C1), or the pixel value points at
  * (C3 and AC4: 3 values, C4: 4 values). AC4 never changes the destination's
  * alpha (the vector code may store it back as it read it; see qvnip_types.h).
@@ -898,7 +897,9 @@ QVN_API QvnStatus qvniMirror_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSi
 /* Transposes: destination pixel (y, x) is source pixel (x, y); the
  * destination ROI is srcRoi with width and height exchanged. The same pointer
  * and step for source and destination is the in-place transpose, tested
- * before anything else.
+ * before anything else. Pixels move in blocks, not row by row: where rows
+ * overlap (a step shorter than a row) the bytes they share end up with one
+ * of the values written to them.
  * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
  * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
  * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"

@@ -279,8 +279,9 @@ struct Runs {
         for (std::int64_t i = 0; i < h; ++i) {
             const std::int64_t y = y0 + i;
             U* d = byteOffset(dst, i * dstStep);
-            const std::int64_t r = y >= top && y < bottom ? y : sourceIndex(s.kind, y, s.height);
-            if (r < 0) {
+            const bool inside = y >= top && y < bottom;  // rows in memory may lie above the ROI
+            const std::int64_t r = inside ? y : sourceIndex(s.kind, y, s.height);
+            if (!inside && r < 0) {
                 fill(s.value, d, w);
                 continue;
             }

@@ -114,31 +114,20 @@ void sweepBorder(const BorderCase<T>& c, const std::vector<int>& widths, const s
                     QVN_BORDER_IN(qvniCopy##kind##Border_##t##_##form##IR_L, T, V, QvnSizeL, QvnRoiSizeL)}, \
                    {5}, {3});
 
-TEST(CopyBorder, Const) {
-#define X(t, T)                                                                               \
-    QVN_BORDER(Const, t, T, C1, 1, false, QVN_ONE_VALUE)                                   \
-    QVN_BORDER(Const, t, T, C3, 3, false, QVN_VALUES)                                      \
-    QVN_BORDER(Const, t, T, C4, 4, false, QVN_VALUES)                                      \
-    QVN_BORDER(Const, t, T, AC4, 4, true, QVN_VALUES)
-    QVN_EACH_TYPE(X)
-#undef X
-}
+// A kind's layouts: C1, C3 and C4, and AC4 where the kind has it.
+#define QVN_BORDER_3(kind, t, T, V1, VN) \
+    QVN_BORDER(kind, t, T, C1, 1, false, V1) QVN_BORDER(kind, t, T, C3, 3, false, VN) QVN_BORDER(kind, t, T, C4, 4, false, VN)
+#define QVN_BORDER_4(kind, t, T, V1, VN) QVN_BORDER_3(kind, t, T, V1, VN) QVN_BORDER(kind, t, T, AC4, 4, true, VN)
 
-TEST(CopyBorder, Replicate) {
-#define X(t, T)                                                                               \
-    QVN_BORDER(Replicate, t, T, C1, 1, false, QVN_NO_VALUE)                                   \
-    QVN_BORDER(Replicate, t, T, C3, 3, false, QVN_NO_VALUE)                                   \
-    QVN_BORDER(Replicate, t, T, C4, 4, false, QVN_NO_VALUE)                                   \
-    QVN_BORDER(Replicate, t, T, AC4, 4, true, QVN_NO_VALUE)
+TEST(CopyBorder, ConstAndReplicate) {
+#define X(t, T) \
+    QVN_BORDER_4(Const, t, T, QVN_ONE_VALUE, QVN_VALUES) QVN_BORDER_4(Replicate, t, T, QVN_NO_VALUE, QVN_NO_VALUE)
     QVN_EACH_TYPE(X)
 #undef X
 }
 
 TEST(CopyBorder, MirrorAndWrap) {
-#define X(t, T)                                                                               \
-    QVN_BORDER(Mirror, t, T, C1, 1, false, QVN_NO_VALUE)                                      \
-    QVN_BORDER(Mirror, t, T, C3, 3, false, QVN_NO_VALUE)                                      \
-    QVN_BORDER(Mirror, t, T, C4, 4, false, QVN_NO_VALUE)
+#define X(t, T) QVN_BORDER_3(Mirror, t, T, QVN_NO_VALUE, QVN_NO_VALUE)
     QVN_EACH_TYPE(X)
 #undef X
     QVN_BORDER(Wrap, 32f, Qvn32f, C1, 1, false, QVN_NO_VALUE)

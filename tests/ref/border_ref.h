@@ -8,7 +8,7 @@
 
 namespace qvn::ref {
 
-enum class Border { kReplicate, kMirror, kConst, kWrap };
+enum class Border { kReplicate, kMirror, kMirrorEdge, kConst, kWrap };
 
 // Position i of an axis of n pixels reads this position; -1 means the
 // constant value.
@@ -22,6 +22,10 @@ inline std::int64_t borderIndex(Border k, std::int64_t i, std::int64_t n) {
             if (n == 1) return 0;
             // reflect about the edge pixel (not repeated) until inside
             while (i < 0 || i >= n) i = i < 0 ? -i : 2 * (n - 1) - i;
+            return i;
+        case Border::kMirrorEdge:
+            // reflect with the edge pixel repeated
+            while (i < 0 || i >= n) i = i < 0 ? -i - 1 : 2 * n - 1 - i;
             return i;
     }
     return -1;
