@@ -66,13 +66,17 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
     if (x + kLanes <= vecEnd) {
         V keep[3];
         channelLanes<T, KD>(0, map.keep, keep);
-        V planes[KS + 1];
-        planes[KS] = isa::set1(map.fill);
+        // The map picks planes by run-time index, so they pass through memory
+        // (a store and a load each, forwarded; vector arrays indexed at run
+        // time compile to far worse).
+        alignas(isa::kVectorBytes) T planes[(KS + 1) * kLanes];
+        isa::storeA(planes + KS * kLanes, isa::set1(map.fill));
         for (; x + kLanes <= vecEnd; x += kLanes) {
-            V in[KS], out[KD], px[KD];
+            V in[KS], pl[KS], out[KD], px[KD];
             for (int k = 0; k < KS; ++k) in[k] = isa::loadU(s + x * KS + k * kLanes);
-            toPlaneVecs<KS>(in, planes);
-            for (int c = 0; c < KD; ++c) out[c] = planes[map.from[c]];
+            toPlaneVecs<KS>(in, pl);
+            for (int k = 0; k < KS; ++k) isa::storeA(planes + k * kLanes, pl[k]);
+            for (int c = 0; c < KD; ++c) out[c] = isa::loadA(planes + map.from[c] * kLanes);
             toPixelVecs<KD>(out, px);
             for (int k = 0; k < KD; ++k) {
                 T* p = d + x * KD + k * kLanes;
@@ -237,8 +241,10 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
 }
 
 // ---- 8u rows that write three-element pixels ---------------------------------
-// Written for 16-byte vectors on every target (v128). SSE2 has no byte
-// shuffle, so these build the 3-byte pixels from 4-byte ones:
+// Written for 16-byte vectors (v128), for the layer without a byte shuffle:
+// the wider layers move these pixels through their planes
+// (isa::kCheapPlaneShuffles) and the families take the general rows there.
+// SSE2 has no byte shuffle, so these build the 3-byte pixels from 4-byte ones:
 // packPairs4to3 turns each 64-bit lane (two 4-byte pixels) into 6 bytes, and
 // two 8-byte stores write the lanes 6 bytes apart. The 2 leftover bytes of
 // each store land on the next pixel, which a later store (or the scalar tail)

@@ -375,6 +375,11 @@ inline void setControl(unsigned csr) { __asm__ volatile("ldmxcsr %0" : : "m"(csr
 inline unsigned withRounding(unsigned csr, unsigned mode) { return (csr & ~0x6000u) | mode; }
 
 // ---- channel shuffles (copy, set, duplicate and swap family) -----------------------
+// Whether K interleaved vectors become K planes (and back) in a few
+// instructions: not here (interleaving steps only), so the 8u three-element
+// rows below keep their own forms on this layer.
+inline constexpr bool kCheapPlaneShuffles = false;
+
 // Built from interleaving steps only (SSE2 has no byte shuffle). With L lanes
 // per vector, K interleaved channels span K vectors: L pixels.
 
