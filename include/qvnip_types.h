@@ -135,7 +135,15 @@ enum {
  * vector code may read them and store them back with the value it read,
  * during the call: only a thread that writes the same bytes while the call
  * runs can tell (its write may be undone). Each family's text names what it
- * keeps. */
+ * keeps.
+ *
+ * ---- builds for wider processors -------------------------------------------
+ * The library holds code for SSE3, AVX2 and AVX-512 processors and picks the
+ * widest one the processor and operating system support when it is loaded
+ * (the version record names it). Every target gives the same result bits for
+ * every call, with one exception: where a float result is NaN, its sign and
+ * payload (which the hardware takes from one of the NaN operands) may differ
+ * between targets. */
 
 /* ---- argument enumerations --------------------------------------------- */
 /* Element type code of functions that take the type as an argument. */
