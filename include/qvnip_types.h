@@ -130,9 +130,8 @@ enum {
  * Some calls change only some channels of each destination pixel: the fourth
  * element of AC4 pixels, the other channels of a one-channel insert or fill
  * (C1C3, C1C4, C3CR, C4CR), pixels whose mask element is 0 (M forms), and
- * channels that a channel order keeps. Those bytes never change value. The
- * AVX-512 build (masked stores) never writes them. The SSE3 and AVX2 builds'
- * vector code may read them and store them back with the value it read,
+ * channels that a channel order keeps. Those bytes never change value, but
+ * the vector code may read them and store them back with the value it read,
  * during the call: only a thread that writes the same bytes while the call
  * runs can tell (its write may be undone). Each family's text names what it
  * keeps.

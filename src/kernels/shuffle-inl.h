@@ -393,8 +393,7 @@ inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
 // the source at 3x - 1 and takes lane 0 of each pixel from the destination.
 // How channel 0 is preserved: the scalar head and tail never write it; the
 // vector body (16-byte vectors on every target) stores with the channel-0
-// lanes kept (v128::storeKeep: not written where masked stores exist,
-// rewritten with the values just read elsewhere).
+// lanes kept (v128::storeKeep: rewritten with the values just read).
 template <class T>
 inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
     using V = v128::Vec<T>;

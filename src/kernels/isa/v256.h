@@ -130,15 +130,11 @@ inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
     return fromBits<T>(_mm256_blendv_epi8(bits(b), bits(a), bits(mask)));
 #endif
 }
-// v at p except in the lanes set in keep, whose bytes keep their values; not
-// written at all where masked stores exist (AVX-512BW and VL).
+// v at p except in the lanes set in keep, whose bytes are rewritten with the
+// values just read from them (see v128::storeKeep).
 template <class T>
 inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
-#if QVN_TARGET_LEVEL >= 3
-    _mm256_mask_storeu_epi8(p, ~static_cast<__mmask32>(_mm256_movemask_epi8(bits(keep))), bits(v));
-#else
     storeU(p, select(keep, loadU(p), v));
-#endif
 }
 
 // ---- integer and float arithmetic ---------------------------------------------------
