@@ -95,9 +95,10 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
 // they end by end; returns where it stopped.
 template <class T, int K, int N, bool Keep>
 inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t end, const int* offsets,
-                                const isa::Vec<T> (*lanes)[3], const isa::Vec<T>* keep) {
-    using V = isa::Vec<T>;
-    constexpr std::int64_t kLanes = isa::kLanes<T>;
+                                const isa_offset::Vec<T> (*lanes)[3], const isa_offset::Vec<T>* keep) {
+    namespace lay = isa_offset;
+    using V = lay::Vec<T>;
+    constexpr std::int64_t kLanes = lay::kLanes<T>;
     constexpr int kPeriod = K == 3 ? 3 : 1;
     const T* from[N];
     V mask[N][kPeriod], kept[kPeriod];
@@ -109,10 +110,10 @@ inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t e
     for (; i + kPeriod * kLanes <= end; i += kPeriod * kLanes)
         for (int k = 0; k < kPeriod; ++k) {
             const std::int64_t e = i + k * kLanes;
-            V v = isa::bitAnd(mask[0][k], isa::loadU(from[0] + e));
-            for (int j = 1; j < N; ++j) v = isa::bitOr(v, isa::bitAnd(mask[j][k], isa::loadU(from[j] + e)));
-            if constexpr (Keep) isa::storeKeep(d + e, v, kept[k]);
-            else isa::storeA(d + e, v);
+            V v = lay::bitAnd(mask[0][k], lay::loadU(from[0] + e));
+            for (int j = 1; j < N; ++j) v = lay::bitOr(v, lay::bitAnd(mask[j][k], lay::loadU(from[j] + e)));
+            if constexpr (Keep) lay::storeKeep(d + e, v, kept[k]);
+            else lay::storeA(d + e, v);
         }
     return i;
 }
@@ -126,15 +127,16 @@ inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t e
 // registers. Channels in map.keep are left as they are.
 template <class T, int K>
 inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>& map) {
-    using V = isa::Vec<T>;
-    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    namespace lay = isa_offset;  // loads off the alignment: see isa.h
+    using V = lay::Vec<T>;
+    constexpr std::int64_t kLanes = lay::kLanes<T>;
     const std::int64_t total = n * K;
     const auto one = [&](std::int64_t i) {
         const int c = int(i % K);
         if (!((map.keep >> c) & 1u)) d[i] = s[i - c + map.from[c]];
     };
     // vector body only where every offset load stays inside the row
-    std::int64_t i = headToAlign(d, total);
+    std::int64_t i = headToAlign<T, lay::kVectorBytes>(d, total);
     if (i < 0) i = total;
     if (i < K) i += (K - i + kLanes - 1) / kLanes * kLanes;  // whole vectors keep the alignment
     const std::int64_t end = total - K;
@@ -147,10 +149,10 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
             for (int c = 0; c < K; ++c)
                 if (!((map.keep >> c) & 1u) && map.from[c] - c == off) chans |= 1u << c;
             if (!chans) continue;
-            channelLanes<T, K>(i, chans, lanes[count]);
+            channelLanes<T, K, V>(i, chans, lanes[count]);
             offsets[count++] = off;
         }
-        channelLanes<T, K>(i, map.keep, keep);
+        channelLanes<T, K, V>(i, map.keep, keep);
         const bool kept = map.keep != 0;
         if constexpr (K == 4) {
             if (kept) {
