@@ -10,8 +10,9 @@
 // --filter   only operations whose name contains TEXT
 // --check    time nothing: run every case's output check at a few sizes
 //            (odd ones included) and report the failures
-// --target   sse3, avx2 or avx512: run our side with that build target instead
-//            of the one the library chose for this processor
+// --target   sse3, avx2 or avx512: time our side with that build target only
+//            (by default every build target this processor runs is timed,
+//            one column each, and "ours" is the one the library chose)
 // Other arguments go to Google Benchmark unchanged.
 #include <benchmark/benchmark.h>
 
@@ -41,6 +42,39 @@ std::vector<OpDef>& registry() {
 
 namespace {
 
+const char* const kTargetNames[qvn::kTargetCount] = {"sse3", "avx2", "avx512"};
+
+// The build targets timed in this run, and the one "ours" stands for.
+struct Targets {
+    std::vector<int> timed;
+    int ours = 0;
+};
+Targets& targets() {
+    static Targets t;
+    return t;
+}
+
+// Runs fn with build target t (through the library's internal hook), then
+// goes back to the target of "ours".
+template <class Fn>
+auto withTarget(int t, Fn fn) {
+    qvn::dispatch::useTarget(qvn::Target(t));
+    struct Back {
+        ~Back() { qvn::dispatch::useTarget(qvn::Target(targets().ours)); }
+    } back;
+    return fn();
+}
+
+// The output check of a case under every timed target: the first failure,
+// named by its target.
+std::string checkEveryTarget(Case& c) {
+    for (int t : targets().timed) {
+        const std::string e = withTarget(t, [&] { return c.check(); });
+        if (!e.empty()) return targets().timed.size() > 1 ? std::string(kTargetNames[t]) + ": " + e : e;
+    }
+    return {};
+}
+
 struct Settings {
     bool quick = false, raw = false, checkOnly = false;
     std::string json, filter, target;
@@ -66,7 +100,7 @@ public:
             if (isatty(2))
                 std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(kSizes[size])).c_str());
             entry_.c = registry()[op].make(kSizes[size]);
-            entry_.error = entry_.c->check();
+            entry_.error = checkEveryTarget(*entry_.c);
             facts_[key] = {entry_.c->bytes, entry_.c->inPlace};
         }
         return entry_;
@@ -88,15 +122,17 @@ CaseCache& cache() {
     return c;
 }
 
-enum class Side { Ours, Peer };
+// What a benchmark times: the peer, or our side with one build target.
+inline constexpr int kPeerSide = -1;
 
 const char* peerName(Peer p) { return p == Peer::Fftw ? "fftw" : "opencv"; }
 
-std::string benchName(const OpDef& op, Size z, Side side) {
-    return op.name + "/" + sizeName(z) + "/" + (side == Side::Ours ? "ours" : peerName(op.peer));
+std::string benchName(const OpDef& op, Size z, int side) {
+    return op.name + "/" + sizeName(z) + "/" +
+           (side == kPeerSide ? std::string(peerName(op.peer)) : std::string("ours-") + kTargetNames[side]);
 }
 
-void runCase(benchmark::State& st, std::size_t op, std::size_t size, Side side) {
+void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
     CaseCache::Entry& e = cache().get(op, size);
     if (!e.error.empty()) {
         st.SkipWithError(e.error.c_str());
@@ -104,11 +140,13 @@ void runCase(benchmark::State& st, std::size_t op, std::size_t size, Side side) 
         }
         return;
     }
-    const std::function<void()>& fn = side == Side::Ours ? e.c->ours : e.c->peer;
-    for (auto _ : st) {
-        fn();
-        benchmark::ClobberMemory();
-    }
+    const std::function<void()>& fn = side == kPeerSide ? e.c->peer : e.c->ours;
+    withTarget(side == kPeerSide ? targets().ours : side, [&] {
+        for (auto _ : st) {
+            fn();
+            benchmark::ClobberMemory();
+        }
+    });
     st.SetBytesProcessed(std::int64_t(e.c->bytes * double(st.iterations())));
     st.SetItemsProcessed(std::int64_t(e.c->pixels * double(st.iterations())));  // pixels per second
 }
@@ -211,7 +249,7 @@ int checkAll(const Settings& s) {
         if (op.name.find(s.filter) == std::string::npos) continue;
         for (Size z : sizes) {
             ++cases;
-            const std::string error = op.make(z)->check();
+            const std::string error = checkEveryTarget(*op.make(z));
             if (!error.empty()) {
                 std::printf("%s %s: %s\n", op.name.c_str(), sizeName(z).c_str(), error.c_str());
                 ++failures;
@@ -243,13 +281,17 @@ int main(int argc, char** argv) {
     // This library starts no threads; the peer runs on one thread as well.
     cv::setNumThreads(1);
     if (!s.target.empty()) {
-        static const char* const names[qvn::kTargetCount] = {"sse3", "avx2", "avx512"};
         int t = 0;
-        while (t < qvn::kTargetCount && s.target != names[t]) ++t;
+        while (t < qvn::kTargetCount && s.target != kTargetNames[t]) ++t;
         if (t == qvn::kTargetCount || !qvn::dispatch::useTarget(qvn::Target(t))) {
             std::fprintf(stderr, "target %s: unknown, not built or not supported here\n", s.target.c_str());
             return 2;
         }
+        targets() = {{t}, t};
+    } else {
+        for (int t = 0; t < qvn::kTargetCount; ++t)
+            if (qvn::dispatch::supported(qvn::Target(t))) targets().timed.push_back(t);
+        targets().ours = int(qvn::dispatch::current());
     }
     if (s.checkOnly) return checkAll(s);
 
@@ -263,11 +305,12 @@ int main(int argc, char** argv) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
         ++selected;
         for (std::size_t z = 0; z < std::size(kSizes); ++z) {
-            add(benchName(ops[o], kSizes[z], Side::Ours), s,
-                [o, z](benchmark::State& t) { runCase(t, o, z, Side::Ours); });
+            for (int tg : targets().timed)
+                add(benchName(ops[o], kSizes[z], tg), s,
+                    [o, z, tg](benchmark::State& t) { runCase(t, o, z, tg); });
             if (ops[o].peer != Peer::None)
-                add(benchName(ops[o], kSizes[z], Side::Peer), s,
-                    [o, z](benchmark::State& t) { runCase(t, o, z, Side::Peer); });
+                add(benchName(ops[o], kSizes[z], kPeerSide), s,
+                    [o, z](benchmark::State& t) { runCase(t, o, z, kPeerSide); });
         }
     }
 
@@ -306,12 +349,15 @@ int main(int argc, char** argv) {
             Row row;
             row.op = ops[o].name;
             row.size = sizeName(z);
-            const std::string ours = benchName(ops[o], z, Side::Ours);
+            const std::string ours = benchName(ops[o], z, targets().ours);
             row.error = collector.error(ours);
             const double pixels = double(z.w) * z.h;
             row.ours = collector.seconds(ours) * 1e9 / pixels;
+            if (targets().timed.size() > 1)
+                for (int tg : targets().timed)
+                    row.targets[tg] = collector.seconds(benchName(ops[o], z, tg)) * 1e9 / pixels;
             if (ops[o].peer != Peer::None) {
-                const double t = collector.seconds(benchName(ops[o], z, Side::Peer)) * 1e9 / pixels;
+                const double t = collector.seconds(benchName(ops[o], z, kPeerSide)) * 1e9 / pixels;
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
             const auto [bytes, inPlace] = cache().facts(o, zi);

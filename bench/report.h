@@ -18,6 +18,9 @@ inline constexpr double kNone = std::numeric_limits<double>::quiet_NaN();
 struct Row {
     std::string op, size;
     double ours = kNone, opencv = kNone, fftw = kNone, bound = kNone;
+    // Our time with each build target (sse3, avx2, avx512) where the run timed
+    // several; ours is the one the library chose.
+    double targets[3] = {kNone, kNone, kNone};
     std::string error;  // a failed output check or call: the row has no times
 
     double best() const;  // the fastest peer, NaN without one

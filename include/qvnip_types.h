@@ -130,12 +130,19 @@ enum {
  * Some calls change only some channels of each destination pixel: the fourth
  * element of AC4 pixels, the other channels of a one-channel insert or fill
  * (C1C3, C1C4, C3CR, C4CR), pixels whose mask element is 0 (M forms), and
- * channels that a channel order keeps. Those bytes never change value. The
- * AVX-512 build (masked stores) never writes them. The SSE3 and AVX2 builds'
- * vector code may read them and store them back with the value it read,
+ * channels that a channel order keeps. Those bytes never change value, but
+ * the vector code may read them and store them back with the value it read,
  * during the call: only a thread that writes the same bytes while the call
  * runs can tell (its write may be undone). Each family's text names what it
- * keeps. */
+ * keeps.
+ *
+ * ---- builds for wider processors -------------------------------------------
+ * The library holds code for SSE3, AVX2 and AVX-512 processors and picks the
+ * widest one the processor and operating system support when it is loaded
+ * (the version record names it). Every target gives the same result bits for
+ * every call, with one exception: where a float result is NaN, its sign and
+ * payload (which the hardware takes from one of the NaN operands) may differ
+ * between targets. */
 
 /* ---- argument enumerations --------------------------------------------- */
 /* Element type code of functions that take the type as an argument. */

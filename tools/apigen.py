@@ -33,7 +33,9 @@ I        '-' for the ordinary form, 'I' for the in-place form (shape <shape>.I)
 L        'L' adds the _L twin of every name (64-bit sizes and steps); '-' not
 shape    a name from shapes.txt
 checks   the leading validation order, comma separated, or '-': ptr (every
-         pointer), ptr(a b) (the named pointers), roi, step (below 1 fails),
+         pointer, and each entry of an array of plane pointers), ptr(a b)
+         (the named pointers), roi, step (below 1 fails), rnd or rounding
+         (the QvnRounding argument), hint (the QvnAccuracyHint argument),
          step0 (only zero fails); other tokens are family checks that the
          generic test leaves to the family's own tests
 impl     the C++ callable that implements the name, looked up with the
@@ -101,12 +103,16 @@ class Param:
         self.decl = subst(raw, values)
         self.name = m.group(2)
         self.ctype = subst(rawtype, values) + ("*" if m.group(3) else "")
+        # an array of pointers (planes): the generic test faults each entry too
+        self.entries = int(m.group(3)[1:-1] or 0) if m.group(3) and "*" in rawtype else 0
         if "*" in self.ctype:
             self.role = "ptr"
         elif rawtype == "{step}":
             self.role = "step"
         elif rawtype == "{roi}":
             self.role = "roi"
+        elif rawtype in ("QvnRounding", "QvnAccuracyHint"):
+            self.role = "mode"  # the generic test also gives it invalid values
         else:
             self.role = "value"
 
@@ -320,6 +326,7 @@ GROUP_KIND = {"ptr": "Ptr", "roi": "Roi", "step": "Step", "step0": "Step0"}
 def case_text(e):
     ptrs = [p for p in e.params if p.role == "ptr"]
     steps = [p for p in e.params if p.role == "step"]
+    modes = [p for p in e.params if p.role == "mode"]
     groups = []
     for tok in [t.strip() for t in e.checks.split(",")]:
         m = re.match(r"^ptr\(([\w\s]+)\)$", tok)
@@ -335,10 +342,13 @@ def case_text(e):
             groups.append((GROUP_KIND[tok], list(range(len(steps)))))
         elif tok == "roi":
             groups.append(("Roi", []))
-        # family checks (rounding, order, ...) stop the generic order here
+        elif tok in ("rnd", "rounding", "hint"):
+            kind, ctype = ("Hint", "QvnAccuracyHint") if tok == "hint" else ("Rounding", "QvnRounding")
+            groups.append((kind, [i for i, p in enumerate(modes) if p.ctype == ctype][:1]))
+        # other family checks (orders, constants, ...) stop the generic order here
         else:
             break
-    args, pi, si = [], 0, 0
+    args, pi, si, mi = [], 0, 0, 0
     for p in e.params:
         if p.role == "ptr":
             args.append(f"f.ptr<{p.ctype}>({pi})")
@@ -348,12 +358,16 @@ def case_text(e):
             si += 1
         elif p.role == "roi":
             args.append(f"f.roi<{p.ctype}>()")
+        elif p.role == "mode":
+            args.append(f"f.mode<{p.ctype}>({mi})")
+            mi += 1
         else:
             args.append(f"{p.ctype}{{}}")
-    if len(groups) > 6 or any(len(idx) > 8 for _, idx in groups):
-        raise TableError(f"{e.name}: more checks or pointers than the case record holds")
+    if len(groups) > 6 or len(ptrs) > 8 or any(p.entries > 8 for p in ptrs):
+        raise TableError(f"{e.name}: more checks, pointers or entries than the case record holds")
     gtext = ", ".join(f"{{Check::{k}, {len(idx)}, {{{', '.join(map(str, idx))}}}}}" for k, idx in groups)
-    return (f'{{"{e.name}", {len(groups)}, {{{gtext}}}, {len(steps)},\n'
+    entries = ", ".join(str(p.entries) for p in ptrs) if any(p.entries for p in ptrs) else ""
+    return (f'{{"{e.name}", {len(groups)}, {{{gtext}}}, {len(steps)}, {{{entries}}},\n'
             f' [](const Faults& f) -> QvnStatus {{ return {e.name}({", ".join(args)}); }}}},\n')
 
 

@@ -73,16 +73,16 @@ struct FromPixel {
 
 // All-ones lanes for the elements whose channel (element index mod K, counted
 // from first) is in the bit set chans; three vectors of period for K = 3, one
-// otherwise.
-template <class T, int K>
-inline void channelLanes(std::int64_t first, unsigned chans, isa::Vec<T> out[3]) {
-    constexpr std::int64_t kLanes = isa::kLanes<T>;
+// otherwise; vectors of any layer (V).
+template <class T, int K, class V = isa::Vec<T>>
+inline void channelLanes(std::int64_t first, unsigned chans, V out[3]) {
+    constexpr std::int64_t kLanes = std::int64_t(sizeof(V) / sizeof(T));
     for (int k = 0; k < (K == 3 ? 3 : 1); ++k) {
-        alignas(isa::kVectorBytes) unsigned char b[isa::kVectorBytes];
+        alignas(sizeof(V)) unsigned char b[sizeof(V)];
         for (std::int64_t e = 0; e < kLanes; ++e)
             std::memset(b + e * sizeof(T), (chans >> ((first + k * kLanes + e) % K)) & 1u ? 0xFF : 0,
                         sizeof(T));
-        out[k] = isa::cast<T>(isa::loadA(b));
+        std::memcpy(&out[k], b, sizeof(V));
     }
 }
 

@@ -66,13 +66,17 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
     if (x + kLanes <= vecEnd) {
         V keep[3];
         channelLanes<T, KD>(0, map.keep, keep);
-        V planes[KS + 1];
-        planes[KS] = isa::set1(map.fill);
+        // The map picks planes by run-time index, so they pass through memory
+        // (a store and a load each, forwarded; vector arrays indexed at run
+        // time compile to far worse).
+        alignas(isa::kVectorBytes) T planes[(KS + 1) * kLanes];
+        isa::storeA(planes + KS * kLanes, isa::set1(map.fill));
         for (; x + kLanes <= vecEnd; x += kLanes) {
-            V in[KS], out[KD], px[KD];
+            V in[KS], pl[KS], out[KD], px[KD];
             for (int k = 0; k < KS; ++k) in[k] = isa::loadU(s + x * KS + k * kLanes);
-            toPlaneVecs<KS>(in, planes);
-            for (int c = 0; c < KD; ++c) out[c] = planes[map.from[c]];
+            toPlaneVecs<KS>(in, pl);
+            for (int k = 0; k < KS; ++k) isa::storeA(planes + k * kLanes, pl[k]);
+            for (int c = 0; c < KD; ++c) out[c] = isa::loadA(planes + map.from[c] * kLanes);
             toPixelVecs<KD>(out, px);
             for (int k = 0; k < KD; ++k) {
                 T* p = d + x * KD + k * kLanes;
@@ -91,9 +95,10 @@ inline void shuffleRow(const T* s, T* d, std::int64_t n, const PixelMap<T, KS, K
 // they end by end; returns where it stopped.
 template <class T, int K, int N, bool Keep>
 inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t end, const int* offsets,
-                                const isa::Vec<T> (*lanes)[3], const isa::Vec<T>* keep) {
-    using V = isa::Vec<T>;
-    constexpr std::int64_t kLanes = isa::kLanes<T>;
+                                const isa_offset::Vec<T> (*lanes)[3], const isa_offset::Vec<T>* keep) {
+    namespace lay = isa_offset;
+    using V = lay::Vec<T>;
+    constexpr std::int64_t kLanes = lay::kLanes<T>;
     constexpr int kPeriod = K == 3 ? 3 : 1;
     const T* from[N];
     V mask[N][kPeriod], kept[kPeriod];
@@ -105,10 +110,10 @@ inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t e
     for (; i + kPeriod * kLanes <= end; i += kPeriod * kLanes)
         for (int k = 0; k < kPeriod; ++k) {
             const std::int64_t e = i + k * kLanes;
-            V v = isa::bitAnd(mask[0][k], isa::loadU(from[0] + e));
-            for (int j = 1; j < N; ++j) v = isa::bitOr(v, isa::bitAnd(mask[j][k], isa::loadU(from[j] + e)));
-            if constexpr (Keep) isa::storeKeep(d + e, v, kept[k]);
-            else isa::storeA(d + e, v);
+            V v = lay::bitAnd(mask[0][k], lay::loadU(from[0] + e));
+            for (int j = 1; j < N; ++j) v = lay::bitOr(v, lay::bitAnd(mask[j][k], lay::loadU(from[j] + e)));
+            if constexpr (Keep) lay::storeKeep(d + e, v, kept[k]);
+            else lay::storeA(d + e, v);
         }
     return i;
 }
@@ -122,15 +127,16 @@ inline std::int64_t permuteBody(const T* s, T* d, std::int64_t i, std::int64_t e
 // registers. Channels in map.keep are left as they are.
 template <class T, int K>
 inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>& map) {
-    using V = isa::Vec<T>;
-    constexpr std::int64_t kLanes = isa::kLanes<T>;
+    namespace lay = isa_offset;  // loads off the alignment: see isa.h
+    using V = lay::Vec<T>;
+    constexpr std::int64_t kLanes = lay::kLanes<T>;
     const std::int64_t total = n * K;
     const auto one = [&](std::int64_t i) {
         const int c = int(i % K);
         if (!((map.keep >> c) & 1u)) d[i] = s[i - c + map.from[c]];
     };
     // vector body only where every offset load stays inside the row
-    std::int64_t i = headToAlign(d, total);
+    std::int64_t i = headToAlign<T, lay::kVectorBytes>(d, total);
     if (i < 0) i = total;
     if (i < K) i += (K - i + kLanes - 1) / kLanes * kLanes;  // whole vectors keep the alignment
     const std::int64_t end = total - K;
@@ -143,10 +149,10 @@ inline void permuteRow(const T* s, T* d, std::int64_t n, const PixelMap<T, K, K>
             for (int c = 0; c < K; ++c)
                 if (!((map.keep >> c) & 1u) && map.from[c] - c == off) chans |= 1u << c;
             if (!chans) continue;
-            channelLanes<T, K>(i, chans, lanes[count]);
+            channelLanes<T, K, V>(i, chans, lanes[count]);
             offsets[count++] = off;
         }
-        channelLanes<T, K>(i, map.keep, keep);
+        channelLanes<T, K, V>(i, map.keep, keep);
         const bool kept = map.keep != 0;
         if constexpr (K == 4) {
             if (kept) {
@@ -237,8 +243,10 @@ inline void fromPlanes(const T* const s[K], T* d, std::int64_t n) {
 }
 
 // ---- 8u rows that write three-element pixels ---------------------------------
-// Written for 16-byte vectors on every target (v128). SSE2 has no byte
-// shuffle, so these build the 3-byte pixels from 4-byte ones:
+// Written for 16-byte vectors (v128), for the layer without a byte shuffle:
+// the wider layers move these pixels through their planes
+// (isa::kCheapPlaneShuffles) and the families take the general rows there.
+// SSE2 has no byte shuffle, so these build the 3-byte pixels from 4-byte ones:
 // packPairs4to3 turns each 64-bit lane (two 4-byte pixels) into 6 bytes, and
 // two 8-byte stores write the lanes 6 bytes apart. The 2 leftover bytes of
 // each store land on the next pixel, which a later store (or the scalar tail)
@@ -387,8 +395,7 @@ inline void swapFirstAndThirdRow(const T* s, T* d, std::int64_t n) {
 // the source at 3x - 1 and takes lane 0 of each pixel from the destination.
 // How channel 0 is preserved: the scalar head and tail never write it; the
 // vector body (16-byte vectors on every target) stores with the channel-0
-// lanes kept (v128::storeKeep: not written where masked stores exist,
-// rewritten with the values just read elsewhere).
+// lanes kept (v128::storeKeep: rewritten with the values just read).
 template <class T>
 inline void behindFirstRow(const T* s, T* d, std::int64_t n) {
     using V = v128::Vec<T>;

@@ -33,11 +33,10 @@ inline std::int64_t headToAlign16(const T* p, std::int64_t n) {
     return h < n ? h : n;
 }
 
-// Elements before p reaches the alignment of a whole vector, at most n; -1
-// when p is not even element-aligned.
-template <class T>
+// Elements before p reaches the alignment of a whole vector (or kV bytes),
+// at most n; -1 when p is not even element-aligned.
+template <class T, std::uintptr_t kV = isa::kVectorBytes>
 inline std::int64_t headToAlign(const T* p, std::int64_t n) {
-    constexpr std::uintptr_t kV = isa::kVectorBytes;
     const auto a = reinterpret_cast<std::uintptr_t>(p);
     if (a % sizeof(T) != 0) return -1;
     const std::int64_t h = std::int64_t((kV - a % kV) % kV / sizeof(T));

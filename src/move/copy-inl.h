@@ -150,7 +150,7 @@ inline QvnStatus insert(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
 // channel order), without checks.
 template <class T, class S>
 inline QvnStatus dropFourth(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
-    if constexpr (std::is_same_v<T, Qvn8u>)
+    if constexpr (std::is_same_v<T, Qvn8u> && !isa::kCheapPlaneShuffles)
         return forEachRow(roi, [](const T* s, T* d, std::int64_t n) { kernels::dropFourthRow(s, d, n); },
                           rows(src, srcStep, 4), rows(dst, dstStep, 3));
     else
@@ -177,7 +177,7 @@ template <class T, class L, class S>
 inline QvnStatus dup(const T* src, S srcStep, T* dst, S dstStep, RoiL roi) {
     QVN_TRY(check::ptrs(src, dst));
     QVN_TRY(check::roi(roi));
-    if constexpr (std::is_same_v<T, Qvn8u> && L::kElems == 3)
+    if constexpr (std::is_same_v<T, Qvn8u> && L::kElems == 3 && !isa::kCheapPlaneShuffles)
         return forEachRow(roi, [](const T* s, T* d, std::int64_t n) { kernels::dup3Row(s, d, n); },
                           rows(src, srcStep, 1), rows(dst, dstStep, 3));
     else
@@ -224,7 +224,7 @@ inline QvnStatus toPlanar(const T* src, S srcStep, T* const* dst, S dstStep, Roi
                 roi,
                 [](const T* s, T* d0, T* d1, T* d2, std::int64_t n) {
                     T* const d[3] = {d0, d1, d2};
-                    if constexpr (std::is_same_v<T, Qvn8u>)
+                    if constexpr (std::is_same_v<T, Qvn8u> && !isa::kCheapPlaneShuffles)
                         kernels::split3Row<Store>(s, d, n);
                     else
                         kernels::toPlanes<T, 3, Store>(s, d, n);
@@ -257,7 +257,8 @@ inline QvnStatus fromPlanar(const T* const* src, S srcStep, T* dst, S dstStep, R
                 roi,
                 [](const T* s0, const T* s1, const T* s2, T* d, std::int64_t n) {
                     const T* const s[3] = {s0, s1, s2};
-                    if constexpr (std::is_same_v<T, Qvn8u> && std::is_same_v<Store, kernels::StoreRegular>)
+                    if constexpr (std::is_same_v<T, Qvn8u> && std::is_same_v<Store, kernels::StoreRegular> &&
+                                  !isa::kCheapPlaneShuffles)
                         kernels::merge3Row(s, d, n);
                     else
                         kernels::fromPlanes<T, 3, Store>(s, d, n);

@@ -64,6 +64,18 @@ TEST(SwapChannels, EveryLayoutAndType) {
     }
 }
 
+// Three channels behind an untouched channel 0 have their own rows: every
+// width up to four vectors and a tail, at every destination offset.
+TEST(SwapChannels, BehindChannelZeroAtEveryWidthAndOffset) {
+    const int order[4] = {4, 0, 1, 2};
+    std::copy(order, order + 4, gOrder);
+#define X(t, T) sweepMoveOver<T>({"SwapChannels_" #t "_C3C4R", orderMap(3, 4, order, 4)}, \
+                                  QVN_FN(T, qvniSwapChannels_##t##_C3C4R(s, int(ss), d, int(ds), r, gOrder, T(0))), \
+                                  {upTo(70 / sizeof(T), 1), {1}, {0}, upTo(15)});
+    X(8u, Qvn8u) X(16u, Qvn16u) X(32f, Qvn32f)
+#undef X
+}
+
 // Every order of the 8u forms on one image of a few vectors and a tail.
 TEST(SwapChannels, EveryOrderOf8u) {
     for (int o = 0; o < 6 * 6 * 6 * 6; ++o) {

@@ -9,7 +9,7 @@
 // (unsigned 16-bit min/max, 32-bit multiplies, unsigned packs) are composed
 // from SSE2. Compiled for a wider target, the same code is VEX-encoded, and a
 // few operations take the newer instruction where it exists (a byte shuffle,
-// a masked store); the results are the same bits.
+// a ternary-logic select); the results are the same bits.
 #ifndef QVN_KERNELS_ISA_V128_H
 #define QVN_KERNELS_ISA_V128_H
 
@@ -123,16 +123,13 @@ inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
     return bitOr(bitAnd(mask, a), andNot(mask, b));
 }
 // Stores v at p (any alignment) except in the lanes set in keep (all ones),
-// whose bytes keep their values. With masked stores (AVX-512BW and VL) the
-// kept lanes are not written at all; otherwise they are rewritten with the
-// values just read from them.
+// whose bytes keep their values: they are rewritten with the values just read
+// from them. (A masked store would not write them, but costs up to twice the
+// time of a read, a select and a whole store where processors split wide
+// masked stores; the whole store is as fast everywhere.)
 template <class T>
 inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
-#if QVN_TARGET_LEVEL >= 3
-    _mm_mask_storeu_epi8(p, static_cast<__mmask16>(~_mm_movemask_epi8(bits(keep))), bits(v));
-#else
     storeU(p, select(keep, loadU(p), v));
-#endif
 }
 
 // ---- integer arithmetic -------------------------------------------------------
@@ -375,6 +372,11 @@ inline void setControl(unsigned csr) { __asm__ volatile("ldmxcsr %0" : : "m"(csr
 inline unsigned withRounding(unsigned csr, unsigned mode) { return (csr & ~0x6000u) | mode; }
 
 // ---- channel shuffles (copy, set, duplicate and swap family) -----------------------
+// Whether K interleaved vectors become K planes (and back) in a few
+// instructions: not here (interleaving steps only), so the 8u three-element
+// rows below keep their own forms on this layer.
+inline constexpr bool kCheapPlaneShuffles = false;
+
 // Built from interleaving steps only (SSE2 has no byte shuffle). With L lanes
 // per vector, K interleaved channels span K vectors: L pixels.
 

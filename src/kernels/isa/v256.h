@@ -18,6 +18,7 @@
 #include <cstdint>
 #include <type_traits>
 
+#include "kernels/isa/shuffle-tables.h"
 #include "kernels/isa/v128.h"
 #include "kernels/target.h"
 
@@ -129,15 +130,11 @@ inline Vec<T> select(Vec<T> mask, Vec<T> a, Vec<T> b) {
     return fromBits<T>(_mm256_blendv_epi8(bits(b), bits(a), bits(mask)));
 #endif
 }
-// v at p except in the lanes set in keep, whose bytes keep their values; not
-// written at all where masked stores exist (AVX-512BW and VL).
+// v at p except in the lanes set in keep, whose bytes are rewritten with the
+// values just read from them (see v128::storeKeep).
 template <class T>
 inline void storeKeep(T* p, Vec<T> v, Vec<T> keep) {
-#if QVN_TARGET_LEVEL >= 3
-    _mm256_mask_storeu_epi8(p, ~static_cast<__mmask32>(_mm256_movemask_epi8(bits(keep))), bits(v));
-#else
     storeU(p, select(keep, loadU(p), v));
-#endif
 }
 
 // ---- integer and float arithmetic ---------------------------------------------------
@@ -351,9 +348,82 @@ using v128::toIntScalar;
 using v128::withRounding;
 
 // ---- channel shuffles -----------------------------------------------------------------
-// On 16-byte halves, with SSSE3's byte shuffle available to the 16-byte layer.
-namespace half = v128;
-#include "kernels/isa/layer-halves.inc"
+// K interleaved vectors (kLanes pixels of K elements) to K planes and back, by
+// byte shuffles within 16-byte lanes and permutes across them.
+inline constexpr bool kCheapPlaneShuffles = true;
+
+// A 16-byte control in both lanes.
+inline __m256i control(const isa_tables::Control& c) {
+    return _mm256_broadcastsi128_si256(_mm_loadu_si128(reinterpret_cast<const __m128i*>(c.b)));
+}
+
+// out[c].q[k] = in[k].q[c]: the 4 x 4 transpose of 64-bit quarters (its own inverse).
+inline void transposeQuarters(const __m256i in[4], __m256i out[4]) {
+    const __m256i t0 = _mm256_unpacklo_epi64(in[0], in[1]), t1 = _mm256_unpackhi_epi64(in[0], in[1]);
+    const __m256i t2 = _mm256_unpacklo_epi64(in[2], in[3]), t3 = _mm256_unpackhi_epi64(in[2], in[3]);
+    out[0] = _mm256_permute2x128_si256(t0, t2, 0x20);
+    out[1] = _mm256_permute2x128_si256(t1, t3, 0x20);
+    out[2] = _mm256_permute2x128_si256(t0, t2, 0x31);
+    out[3] = _mm256_permute2x128_si256(t1, t3, 0x31);
+}
+
+// Four-element pixels: each channel's elements gathered in a 64-bit quarter
+// per vector (a byte shuffle per lane, a dword permute), then the quarters
+// transposed.
+template <class T>
+inline void deinterleave4(const Vec<T> in[4], Vec<T> out[4]) {
+    constexpr int E = int(sizeof(T));
+    __m256i x[4], y[4];
+    for (int k = 0; k < 4; ++k) {
+        x[k] = bits(in[k]);
+        if constexpr (E < 4) x[k] = _mm256_shuffle_epi8(x[k], control(isa_tables::Controls<E>::kDeinterleave4));
+        if constexpr (E < 8) x[k] = _mm256_permutevar8x32_epi32(x[k], _mm256_setr_epi32(0, 4, 1, 5, 2, 6, 3, 7));
+    }
+    transposeQuarters(x, y);
+    for (int k = 0; k < 4; ++k) out[k] = fromBits<T>(y[k]);
+}
+template <class T>
+inline void interleave4(const Vec<T> in[4], Vec<T> out[4]) {
+    constexpr int E = int(sizeof(T));
+    __m256i x[4], y[4];
+    for (int k = 0; k < 4; ++k) x[k] = bits(in[k]);
+    transposeQuarters(x, y);
+    for (int k = 0; k < 4; ++k) {
+        if constexpr (E < 8) y[k] = _mm256_permutevar8x32_epi32(y[k], _mm256_setr_epi32(0, 2, 4, 6, 1, 3, 5, 7));
+        if constexpr (E < 4) y[k] = _mm256_shuffle_epi8(y[k], control(isa_tables::Controls<E>::kInterleave4));
+        out[k] = fromBits<T>(y[k]);
+    }
+}
+
+// Three-element pixels: the six 16-byte chunks regrouped so that each lane
+// holds three consecutive chunks (whole pixels), then each plane is the OR of
+// three byte shuffles.
+template <class T>
+inline void deinterleave3(const Vec<T> in[3], Vec<T> out[3]) {
+    using C = isa_tables::Controls<int(sizeof(T))>;
+    const __m256i a = bits(in[0]), b = bits(in[1]), c = bits(in[2]);
+    const __m256i x[3] = {_mm256_permute2x128_si256(a, b, 0x30), _mm256_permute2x128_si256(a, c, 0x21),
+                          _mm256_permute2x128_si256(b, c, 0x30)};
+    for (int ch = 0; ch < 3; ++ch) {
+        __m256i v = _mm256_shuffle_epi8(x[0], control(C::kDeinterleave3[0][ch]));
+        v = _mm256_or_si256(v, _mm256_shuffle_epi8(x[1], control(C::kDeinterleave3[1][ch])));
+        v = _mm256_or_si256(v, _mm256_shuffle_epi8(x[2], control(C::kDeinterleave3[2][ch])));
+        out[ch] = fromBits<T>(v);
+    }
+}
+template <class T>
+inline void interleave3(const Vec<T> in[3], Vec<T> out[3]) {
+    using C = isa_tables::Controls<int(sizeof(T))>;
+    __m256i x[3];
+    for (int s = 0; s < 3; ++s) {
+        __m256i v = _mm256_shuffle_epi8(bits(in[0]), control(C::kInterleave3[s][0]));
+        v = _mm256_or_si256(v, _mm256_shuffle_epi8(bits(in[1]), control(C::kInterleave3[s][1])));
+        x[s] = _mm256_or_si256(v, _mm256_shuffle_epi8(bits(in[2]), control(C::kInterleave3[s][2])));
+    }
+    out[0] = fromBits<T>(_mm256_permute2x128_si256(x[0], x[1], 0x20));
+    out[1] = fromBits<T>(_mm256_permute2x128_si256(x[2], x[0], 0x30));
+    out[2] = fromBits<T>(_mm256_permute2x128_si256(x[1], x[2], 0x31));
+}
 
 // Elements 0 and 2 of every four-element pixel exchanged: one byte shuffle
 // (pixels never cross a 16-byte half).
