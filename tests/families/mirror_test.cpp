@@ -153,7 +153,7 @@ TEST(Transpose, Only32sAsksForTheCacheSizeFromSide257) {
 
 TEST(Mirror, FourChannelIntegerFormsStreamFromAMebibyteReadAndWritten) {
     resetCacheDouble();
-    std::vector<Qvn8u> buf(8 * 131073);
+    std::vector<Qvn8u> buf(8 * 131073 + 16);  // the 16u call writes 65537 eight-byte pixels from d
     Qvn8u* const s = buf.data();
     Qvn8u* const d = buf.data() + 4 * 131073;
     // 8u C4: 8 bytes per pixel read and written; 1,048,576 bytes stay below
