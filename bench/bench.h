@@ -220,12 +220,16 @@ struct Opts {
     bool inPlace = false;       // bounded by the read-modify-write stream
     // Runs after the random fill of the sources, to give them structure (masks).
     std::function<void(int source, void* img)> shape;
+    // The destinations' size from the sources' (borders, transposes); the
+    // sources' size when empty. Times stay per source pixel.
+    std::function<Size(Size)> dstSize;
 
     Opts& range(Range r) { ranges.push_back(r); return *this; }
     Opts& tolerance(double t) { tol = t; return *this; }
     Opts& readsDestination() { readsDst = true; return *this; }
     Opts& inPlaceStream() { readsDst = inPlace = true; return *this; }
     Opts& shaped(std::function<void(int, void*)> f) { shape = std::move(f); return *this; }
+    Opts& resized(std::function<Size(Size)> f) { dstSize = std::move(f); return *this; }
 };
 
 // The images of a case: sources, our destinations and the other side's.
@@ -253,8 +257,9 @@ std::pair<Peer, Factory> images(std::vector<int> srcCh, std::vector<int> dstCh, 
             c->bytes += double(io->src.back().bytes());
         }
         for (int ch : dstCh) {
-            io->dst.emplace_back(z.w, z.h, ch);
-            io->want.emplace_back(z.w, z.h, ch);
+            const Size dz = opts.dstSize ? opts.dstSize(z) : z;
+            io->dst.emplace_back(dz.w, dz.h, ch);
+            io->want.emplace_back(dz.w, dz.h, ch);
             // Destinations start alike, so that pixels an operation leaves alone agree.
             fillRandom(io->dst.back(), defaultRange<D>(), rng);
             copyPixels(io->dst.back(), io->want.back());

@@ -8,6 +8,282 @@
 QVN_BEGIN_DECLS
 
 
+/* The border copies. The source ROI goes to the destination ROI at row
+ * topBorderHeight and column leftBorderWidth; the other rows and columns of
+ * the destination ROI (the frame: dstRoiSize.width - srcRoiSize.width -
+ * leftBorderWidth columns on the right, and so many rows below) are filled.
+ * The IR forms extend an image inside its own buffer: pSrcDst addresses the
+ * source ROI, and the destination ROI begins topBorderHeight rows above and
+ * leftBorderWidth pixels left of it, at the same step; only the frame is
+ * written.
+ * Const: every frame pixel takes value (C1), or the pixel value points at
+ * (C3 and AC4: 3 values, C4: 4 values). AC4 never changes the destination's
+ * alpha (the vector code may store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative
+ * topBorderHeight or leftBorderWidth, or a destination narrower than the
+ * source width plus leftBorderWidth or lower than the source height plus
+ * topBorderHeight (qvnErrSize). */
+QVN_API QvnStatus qvniCopyConstBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn8u value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn8u value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn8u value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C1IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn8u value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn16s value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C1R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn16s value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn16s value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C1IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn16s value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn16u value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C1R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn16u value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn16u value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C1IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn16u value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn32f value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C1R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn32f value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn32f value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C1IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn32f value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C1R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn32s value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C1R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn32s value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, Qvn32s value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C1IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, Qvn32s value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C3R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C3IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C4R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_C4IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_AC4R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_8u_AC4IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn8u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C3R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C3IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C4R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_C4IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_AC4R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16s_AC4IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16s* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C3R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C3IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C4R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_C4IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_AC4R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_16u_AC4IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn16u* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C3R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C3IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_C4IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_AC4R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32f_AC4IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32f* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C3R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C3R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C3IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C4R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C4R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_C4IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_AC4R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_AC4R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth, const Qvn32s* value);
+QVN_API QvnStatus qvniCopyConstBorder_32s_AC4IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth, const Qvn32s* value);
+
+/* Replicate: a frame pixel repeats the nearest edge pixel of the source.
+ * AC4 as above.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative
+ * topBorderHeight or leftBorderWidth, or a destination narrower than the
+ * source width plus leftBorderWidth or lower than the source height plus
+ * topBorderHeight (qvnErrSize). */
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C1IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C3R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C3IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C4R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_C4IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_AC4R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_8u_AC4IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C1R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C1IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C3R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C3IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C4R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_C4IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_AC4R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16s_AC4IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C1R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C1IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C3R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C3IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C4R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_C4IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_AC4R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_16u_AC4IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C1R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C1IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C3R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C3IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_C4IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_AC4R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_AC4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32f_AC4IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C1R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C1R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C1IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C3R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C3R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C3IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C4R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C4R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_C4IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_AC4R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_AC4R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyReplicateBorder_32s_AC4IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+
+/* Mirror: the frame reflects the source about its edge pixels, which are not
+ * repeated (the left border of width L takes source columns L, L-1, ..., 1);
+ * a border as wide as the source or wider reflects again at the far edge, as
+ * often as needed, and never reads outside the source. An out-of-place call
+ * with pSrc equal to pDst is the IR form with srcStep for the source rows and
+ * dstStep for the destination (source rows move to dstStep first); this
+ * comparison comes before every check.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative
+ * topBorderHeight or leftBorderWidth, or a destination narrower than the
+ * source width plus leftBorderWidth or lower than the source height plus
+ * topBorderHeight (qvnErrSize). */
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C1IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C3R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C3IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn8u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C4R_L(const Qvn8u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn8u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_8u_C4IR_L(Qvn8u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C1R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C1IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C3R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C3IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C4R_L(const Qvn16s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16s_C4IR_L(Qvn16s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C1R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C1IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C3R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C3IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn16u* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C4R_L(const Qvn16u* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn16u* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_16u_C4IR_L(Qvn16u* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C1R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C1IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C3R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C3IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C4R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32f_C4IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C1R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C1R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C1IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C3R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C3R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C3IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C4R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C4R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyMirrorBorder_32s_C4IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+
+/* Wrap: a frame pixel takes the source pixel from the opposite side (column
+ * -1 is the last column, and so on, repeated for borders wider than the
+ * source). An out-of-place call with pSrc equal to pDst passes every check
+ * and is then the IR form, as for the mirror border.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative
+ * topBorderHeight or leftBorderWidth, or a destination narrower than the
+ * source width plus leftBorderWidth or lower than the source height plus
+ * topBorderHeight (qvnErrSize). */
+QVN_API QvnStatus qvniCopyWrapBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32f_C1R_L(const Qvn32f* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32f* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32f_C1IR_L(Qvn32f* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32s_C1R(const Qvn32s* pSrc, int srcStep, QvnRoiSize srcRoiSize, Qvn32s* pDst, int dstStep, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32s_C1R_L(const Qvn32s* pSrc, QvnSizeL srcStep, QvnRoiSizeL srcRoiSize, Qvn32s* pDst, QvnSizeL dstStep, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize srcRoiSize, QvnRoiSize dstRoiSize, int topBorderHeight, int leftBorderWidth);
+QVN_API QvnStatus qvniCopyWrapBorder_32s_C1IR_L(Qvn32s* pSrcDst, QvnSizeL srcDstStep, QvnRoiSizeL srcRoiSize, QvnRoiSizeL dstRoiSize, QvnSizeL topBorderHeight, QvnSizeL leftBorderWidth);
+
 /* Widening conversions: every value is copied exactly. AC4 never changes the
  * destination's alpha (the vector code may store it back as it read it; see
  * qvnip_types.h). Large C1, C3 and C4 images of 8s to 32s or 32f, 16u or 16s
@@ -562,6 +838,109 @@ QVN_API QvnStatus qvniSwapChannels_16u_C3C4R(const Qvn16u* pSrc, int srcStep, Qv
 QVN_API QvnStatus qvniSwapChannels_16s_C3C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn16s val);
 QVN_API QvnStatus qvniSwapChannels_32s_C3C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn32s val);
 QVN_API QvnStatus qvniSwapChannels_32f_C3C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const int dstOrder[4], Qvn32f val);
+
+/* Mirrors the ROI: flip qvnAxisHorizontal (0) reverses the order of the rows,
+ * qvnAxisVertical (1) reverses each row, qvnAxisBoth (2) does both (a half
+ * turn); pixels move whole. In place, a one-row ROI about the horizontal axis
+ * returns at once. An out-of-place call with the same pointer and step for
+ * source and destination mirrors in place. AC4 never changes the
+ * destination's alpha (the vector code may store it back as it read it; see
+ * qvnip_types.h). The C4 forms of 8u, 16u and 32s write with non-temporal
+ * stores once the bytes read and written reach 1,048,577 and the largest
+ * cache.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); an axis other than 0, 1, 2, compared unsigned
+ * (qvnErrAxis). Steps are not checked: a negative step walks the rows upward,
+ * 0 repeats one row, a step shorter than a row overlaps rows ("steps" in
+ * qvnip_types.h). */
+QVN_API QvnStatus qvniMirror_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C3R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnAxis flip);
+QVN_API QvnStatus qvniMirror_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, QvnAxis flip);
+
+/* Transposes: destination pixel (y, x) is source pixel (x, y); the
+ * destination ROI is srcRoi with width and height exchanged. The same pointer
+ * and step for source and destination is the in-place transpose, tested
+ * before anything else. Pixels move in blocks, not row by row: where rows
+ * overlap (a step shorter than a row) the bytes they share end up with one
+ * of the values written to them.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniTranspose_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32s_C3R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32s_C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize srcRoi);
+QVN_API QvnStatus qvniTranspose_32fc_C1R(const Qvn32fc* pSrc, int srcStep, Qvn32fc* pDst, int dstStep, QvnRoiSize srcRoi);
+
+/* In place on a square ROI.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a width different from the height (qvnErrSize). Steps
+ * are not checked: a negative step walks the rows upward, 0 repeats one row, a
+ * step shorter than a row overlaps rows ("steps" in qvnip_types.h). */
+QVN_API QvnStatus qvniTranspose_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniTranspose_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 
 /* Fills the ROI with one value (C1) or one pixel (C3 and AC4: 3 values, C4: 4
  * values). AC4 never changes the destination's alpha (the vector code may

@@ -176,6 +176,10 @@ enum {
     qvnBorderInMem       = 240
 };
 
+/* Mirror axis: the order of the rows reversed, each row reversed, or both. */
+typedef int QvnAxis;
+enum { qvnAxisHorizontal = 0, qvnAxisVertical = 1, qvnAxisBoth = 2 };
+
 typedef int QvnInterpolation;
 enum {
     qvnInterpNone    = 0,

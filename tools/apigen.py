@@ -225,6 +225,10 @@ CHECK_WORDS = {
     "const": "a zero constant in a channel the layout uses (qvnErrDivByZero)",
     "order": "a channel-order entry out of range (qvnErrChannelOrder)",
     "bitoffset": "a bit offset outside 0..7 (qvnErrArgRange)",
+    "borders": ("a negative topBorderHeight or leftBorderWidth, or a destination narrower than the source "
+                "width plus leftBorderWidth or lower than the source height plus topBorderHeight (qvnErrSize)"),
+    "axis": "an axis other than 0, 1, 2, compared unsigned (qvnErrAxis)",
+    "square": "a width different from the height (qvnErrSize)",
 }
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")

@@ -20,13 +20,17 @@ inline void copyTail(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
 
 // Copies n bytes: a head up to the first vector-aligned destination byte,
 // then four vectors per step, then one, then the tail. Every element type
-// copies through this one kernel.
+// copies through this one kernel. Rows of a vector or more take the head and
+// the tail as one unaligned vector each, which the aligned vectors overlap
+// (writing the same bytes again): short rows cost a few stores, not a store
+// per power of two.
 template <class Store>
 inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
     using V = isa::Vec<std::uint8_t>;
     constexpr std::int64_t kV = isa::kVectorBytes;
+    if (n < kV) return copyTail(s, d, n);
+    isa::storeU(d, isa::loadU(s));
     std::int64_t i = headToAlign(d, n);
-    copyTail(s, d, i);
     for (; i + 4 * kV <= n; i += 4 * kV) {
         const V a = isa::loadU(s + i), b = isa::loadU(s + i + kV), c = isa::loadU(s + i + 2 * kV),
                 e = isa::loadU(s + i + 3 * kV);
@@ -36,7 +40,7 @@ inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
         Store::store(d + i + 3 * kV, e);
     }
     for (; i + kV <= n; i += kV) Store::store(d + i, isa::loadU(s + i));
-    copyTail(s + i, d + i, n - i);
+    if (i < n) isa::storeU(d + n - kV, isa::loadU(s + n - kV));
 }
 
 // Element sources of the rows below: another image's row, or a repeated

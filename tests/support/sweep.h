@@ -45,6 +45,15 @@ bool sameValue(T a, T b, bool anyNaN = false) {
     return std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 
+// The ROI's elements, row after row.
+template <class T>
+std::vector<T> roiContents(const GuardedImage<T>& img) {
+    std::vector<T> v;
+    for (std::int64_t y = 0; y < img.height(); ++y)
+        for (std::int64_t e = 0; e < img.rowElems(); ++e) v.push_back(img.at(e, y));
+    return v;
+}
+
 // Every ROI element of out against want(e, y) (element e of row y); adds a
 // failure naming the first difference and returns false there.
 template <class T, class Want>

@@ -539,6 +539,40 @@ inline void prefetch(const void* p) { _mm_prefetch(static_cast<const char*>(p), 
 // x in the low 32-bit lane, zeros above.
 inline Vec<std::uint32_t> fromLow32(std::uint32_t x) { return {_mm_cvtsi32_si128(static_cast<int>(x))}; }
 
+// ---- reversal (mirror and border family) ----------------------------------------------------
+// The units of Bytes bytes (1, 2, 4, 8 or 16) of a in reverse order: a row of
+// pixels of that size read backwards. SSE2 has no byte shuffle, so narrow
+// units reverse the 16-bit words and then swap the bytes inside each word;
+// the wider targets' 16-byte layer uses the byte shuffle.
+template <int Bytes, class T>
+inline Vec<T> reverseUnits(Vec<T> a) {
+    static_assert(Bytes == 1 || Bytes == 2 || Bytes == 4 || Bytes == 8 || Bytes == 16, "unit size");
+    __m128i x = bits(a);
+    if constexpr (Bytes == 8) {
+        x = _mm_shuffle_epi32(x, 0x4E);
+    } else if constexpr (Bytes == 4) {
+        x = _mm_shuffle_epi32(x, 0x1B);
+    } else if constexpr (Bytes < 4) {
+#if QVN_TARGET_LEVEL >= 2
+        x = _mm_shuffle_epi8(x, Bytes == 2 ? _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1)
+                                           : _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0));
+#else
+        x = _mm_shufflehi_epi16(_mm_shufflelo_epi16(_mm_shuffle_epi32(x, 0x4E), 0x1B), 0x1B);
+        if constexpr (Bytes == 1) x = _mm_or_si128(_mm_slli_epi16(x, 8), _mm_srli_epi16(x, 8));
+#endif
+    }
+    return fromBits<T>(x);
+}
+
+#if QVN_TARGET_LEVEL >= 2
+// Byte j of the result is byte table[j] of a, or 0 where table[j] has its top
+// bit set (SSSE3's byte shuffle; the 16-byte layer of the wider targets only,
+// for kernels tied to 16-byte blocks).
+inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* table) {
+    return {_mm_shuffle_epi8(a.v, _mm_loadu_si128(reinterpret_cast<const __m128i*>(table)))};
+}
+#endif
+
 }  // namespace v128
 QVN_TARGET_END
 

@@ -441,6 +441,27 @@ inline Vec<T> swapFirstAndThird(Vec<T> a) {
     return fromBits<T>(_mm256_shuffle_epi8(bits(a), c));
 }
 
+// ---- reversal (mirror and border family) ---------------------------------------------------
+// The units of Bytes bytes (1, 2, 4, 8 or 16) of a in reverse order.
+template <int Bytes, class T>
+inline Vec<T> reverseUnits(Vec<T> a) {
+    static_assert(Bytes == 1 || Bytes == 2 || Bytes == 4 || Bytes == 8 || Bytes == 16, "unit size");
+    __m256i x = bits(a);
+    if constexpr (Bytes == 16) {
+        x = _mm256_permute4x64_epi64(x, 0x4E);
+    } else if constexpr (Bytes == 8) {
+        x = _mm256_permute4x64_epi64(x, 0x1B);
+    } else if constexpr (Bytes == 4) {
+        x = _mm256_permutevar8x32_epi32(x, _mm256_setr_epi32(7, 6, 5, 4, 3, 2, 1, 0));
+    } else {
+        // each 16-byte half reversed in place, then the halves exchanged
+        const __m128i c = Bytes == 2 ? _mm_setr_epi8(14, 15, 12, 13, 10, 11, 8, 9, 6, 7, 4, 5, 2, 3, 0, 1)
+                                     : _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+        x = _mm256_permute4x64_epi64(_mm256_shuffle_epi8(x, _mm256_broadcastsi128_si256(c)), 0x4E);
+    }
+    return fromBits<T>(x);
+}
+
 }  // namespace v256
 QVN_TARGET_END
 

@@ -485,6 +485,31 @@ inline Vec<T> swapFirstAndThird(Vec<T> a) {
     }
 }
 
+// ---- reversal (mirror and border family) ---------------------------------------------------------
+// The units of Bytes bytes (1, 2, 4, 8 or 16) of a in reverse order.
+template <int Bytes, class T>
+inline Vec<T> reverseUnits(Vec<T> a) {
+    static_assert(Bytes == 1 || Bytes == 2 || Bytes == 4 || Bytes == 8 || Bytes == 16, "unit size");
+    __m512i x = bits(a);
+    if constexpr (Bytes == 16) {
+        x = _mm512_shuffle_i64x2(x, x, 0x1B);
+    } else if constexpr (Bytes == 8) {
+        x = _mm512_permutexvar_epi64(_mm512_setr_epi64(7, 6, 5, 4, 3, 2, 1, 0), x);
+    } else if constexpr (Bytes == 4) {
+        x = _mm512_permutexvar_epi32(_mm512_setr_epi32(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0), x);
+    } else if constexpr (Bytes == 2) {
+        x = _mm512_permutexvar_epi16(_mm512_set_epi16(0, 1, 2, 3, 4, 5, 6, 7, 8, 9, 10, 11, 12, 13, 14, 15, 16, 17,
+                                                      18, 19, 20, 21, 22, 23, 24, 25, 26, 27, 28, 29, 30, 31), x);
+    } else {
+        // each 16-byte quarter reversed in place (a whole-vector byte permute
+        // needs VBMI), then the quarters in reverse order
+        const __m128i c = _mm_setr_epi8(15, 14, 13, 12, 11, 10, 9, 8, 7, 6, 5, 4, 3, 2, 1, 0);
+        x = _mm512_shuffle_epi8(x, _mm512_broadcast_i32x4(c));
+        x = _mm512_shuffle_i64x2(x, x, 0x1B);
+    }
+    return fromBits<T>(x);
+}
+
 }  // namespace v512
 QVN_TARGET_END
 
