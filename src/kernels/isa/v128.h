@@ -573,6 +573,14 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
 }
 #endif
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a.v, _mm_setzero_si128())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) {
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+}
+
 }  // namespace v128
 QVN_TARGET_END
 

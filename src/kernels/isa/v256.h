@@ -462,6 +462,12 @@ inline Vec<T> reverseUnits(Vec<T> a) {
     return fromBits<T>(x);
 }
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm256_sad_epu8(a.v, _mm256_setzero_si256())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) { return {_mm256_cvtps_pd(_mm_loadu_ps(p))}; }
+
 }  // namespace v256
 QVN_TARGET_END
 
