@@ -46,19 +46,32 @@ inline bool sameBits(T a, T b) {
     return std::memcmp(&a, &b, sizeof(T)) == 0;
 }
 
+// Out of the caches the loops keep more reads in flight with a hint for
+// every cache line kAhead bytes before they reach it (a hint past the end of
+// the image is harmless: it never faults).
+inline constexpr std::int64_t kAhead = 2048;
+template <class T>
+inline void prefetchAhead(const T* p, std::int64_t bytes) {
+    for (std::int64_t b = 0; b < bytes; b += 64) isa::prefetch(reinterpret_cast<const char*>(p) + kAhead + b);
+}
+// Blocks of B elements of T per group of at least a cache line.
+template <class T, std::int64_t B>
+inline constexpr std::int64_t kLineGroup = B * std::int64_t(sizeof(T)) >= 64 ? 1 : 64 / (B * std::int64_t(sizeof(T)));
+
 // ---- sums of 8- and 16-bit elements -----------------------------------------------
-// Exact. Lanes of twice the element width take the elements and are added to
-// 64-bit lanes every kFlush blocks, before any of them can overflow (256
-// bytes or 65536 16-bit elements per lane). 8u rows of one channel go
-// straight to 64-bit lanes, eight bytes at a time. Signed 16-bit elements
-// are summed biased by 32768, as unsigned ones; the caller takes the bias
-// off.
+// Exact. Each vector, read as lanes of twice the element width, splits into
+// its even elements (the low halves) and odd ones (the high halves, shifted
+// down): no shuffles. Those lanes accumulate and are added to 64-bit lanes
+// every kFlush blocks, before any of them can overflow (256 bytes or 65536
+// 16-bit elements per lane). 8u rows of one channel go straight to 64-bit
+// lanes, eight bytes at a time. Signed 16-bit elements are summed biased by
+// 32768, as unsigned ones; the caller takes the bias off.
 template <class T, int E>
 class IntSum {
     using U = std::make_unsigned_t<T>;
     using N = std::conditional_t<sizeof(T) == 1, std::uint16_t, std::uint32_t>;
     static constexpr int kVecs = kBlockVecs<E>;
-    static constexpr int kNarrow = 2 * kVecs;
+    static constexpr int kNarrow = 2 * kVecs;  // narrow j: the even (j even) or odd elements of vector j / 2
     static constexpr int kWidePer = int(sizeof(std::uint64_t) / sizeof(N));
     static constexpr int kWide = kNarrow * kWidePer;
     static constexpr std::int64_t kFlush = sizeof(T) == 1 ? 256 : 65536;
@@ -77,20 +90,34 @@ public:
         constexpr std::int64_t B = kBlock<T, E>;
         std::int64_t i = 0;
         if constexpr (kBytes) {
+            constexpr std::int64_t G = kLineGroup<T, B>;
             V<std::uint64_t> a = wide_[0];
+            for (; i + G * B <= n; i += G * B) {
+                prefetchAhead(p + i, G * B);
+                for (std::int64_t g = 0; g < G; ++g) a = isa::add(a, isa::sumBytes(isa::loadU(p + i + g * B)));
+            }
             for (; i + B <= n; i += B) a = isa::add(a, isa::sumBytes(isa::loadU(p + i)));
             wide_[0] = a;
         } else {
+            const V<N> low = isa::set1<N>(N(U(~U(0))));
             V<N> acc[kNarrow];
             for (int j = 0; j < kNarrow; ++j) acc[j] = narrow_[j];
             while (n - i >= B) {
+                constexpr std::int64_t G = kLineGroup<T, B>;
                 const std::int64_t blocks = std::min((n - i) / B, kFlush - pending_);
-                for (std::int64_t b = 0; b < blocks; ++b, i += B)
+                const auto block = [&](const T* q) {
                     for (int j = 0; j < kVecs; ++j) {
-                        const V<U> x = load(p + i + j * kLanes<T>);
-                        acc[2 * j] = isa::add(acc[2 * j], isa::widenLo<N>(x));
-                        acc[2 * j + 1] = isa::add(acc[2 * j + 1], isa::widenHi<N>(x));
+                        const V<N> x = isa::cast<N>(load(q + j * kLanes<T>));
+                        acc[2 * j] = isa::add(acc[2 * j], isa::bitAnd(x, low));
+                        acc[2 * j + 1] = isa::add(acc[2 * j + 1], isa::shiftRight<8 * sizeof(T)>(x));
                     }
+                };
+                std::int64_t b = 0;
+                for (; b + G <= blocks; b += G, i += G * B) {
+                    prefetchAhead(p + i, G * B * std::int64_t(sizeof(T)));
+                    for (std::int64_t g = 0; g < G; ++g) block(p + i + g * B);
+                }
+                for (; b < blocks; ++b, i += B) block(p + i);
                 pending_ += blocks;
                 if (pending_ == kFlush) flush(acc);
             }
@@ -106,17 +133,21 @@ public:
         std::uint64_t lanes[kWide * L64];
         for (int j = 0; j < kWide; ++j) isa::storeU(lanes + j * L64, wide_[j]);
         for (int c = 0; c < E; ++c) out[c] = tail_[c];
-        // with kBytes a lane holds eight positions of the one channel
-        for (std::int64_t k = 0; k < kWide * L64; ++k) out[kBytes ? 0 : k % E] += lanes[k];
+        // lane k of narrow j holds element 2k + j % 2 of vector j / 2; with
+        // kBytes a lane holds eight elements of the one channel
+        for (std::int64_t k = 0; k < kWide * L64; ++k) {
+            const std::int64_t j = k / kLanes<N>, lane = k % kLanes<N>;
+            out[kBytes ? 0 : (j / 2 * kLanes<T> + 2 * lane + j % 2) % E] += lanes[k];
+        }
     }
 
 private:
     static V<U> load(const T* p) {
-        const V<U> x = isa::cast<U>(isa::loadU(p));
+        const V<U> x = isa::cast<U>(isa::loadOnce(p));
         if constexpr (kBias != 0) return isa::bitXor(x, isa::set1<U>(U(kBias)));
         else return x;
     }
-    // Narrow lanes into the 64-bit lanes of the same block positions.
+    // Narrow lanes into 64-bit lanes, kept in lane order.
     void flush(V<N>* acc) {
         for (int j = 0; j < kNarrow; ++j) {
             V<std::uint64_t>* w = wide_ + j * kWidePer;
@@ -168,8 +199,10 @@ public:
         V<double> s[kVecs], c[kVecs];
         for (int j = 0; j < kVecs; ++j) s[j] = isa::loadU(s_ + j * kLd), c[j] = isa::loadU(c_ + j * kLd);
         std::int64_t i = 0;
-        for (; i + kParts <= n; i += kParts)
+        for (; i + kParts <= n; i += kParts) {
+            prefetchAhead(p + i, kParts * 4);
             for (int j = 0; j < kVecs; ++j) add(s[j], c[j], isa::loadToDouble(p + i + j * kLd));
+        }
         for (int j = 0; j < kVecs; ++j) isa::storeU(s_ + j * kLd, s[j]), isa::storeU(c_ + j * kLd, c[j]);
         for (int k = 0; i < n; ++i, ++k) add(s_[k], c_[k], double(p[i]));
     }
@@ -217,8 +250,8 @@ private:
 // Elements are ordered by value, with -0 below +0, so every target finds the
 // same bits. NaN elements are ignored: the accumulator, which starts at
 // start() (the value no element is beyond), is the second operand and never
-// NaN, and minps and maxps return their second operand when the first is
-// NaN. bound() is the value that nothing can pass.
+// NaN, and the ordered minimum and maximum keep their second operand when
+// the first is NaN. bound() is the value that nothing can pass.
 struct Lower {
     template <class T>
     static constexpr T start() {
@@ -245,9 +278,8 @@ struct Lower {
     }
     template <class T>
     static V<T> vec(V<T> x, V<T> acc) {
-        const V<T> m = isa::min(x, acc);
-        if constexpr (kFloat<T>) return isa::bitOr(m, isa::bitAnd(isa::cmpEq(x, acc), x));
-        else return m;
+        if constexpr (kFloat<T>) return isa::minOrdered(x, acc);
+        else return isa::min(x, acc);
     }
 };
 
@@ -271,9 +303,8 @@ struct Higher {
     }
     template <class T>
     static V<T> vec(V<T> x, V<T> acc) {
-        const V<T> m = isa::max(x, acc);
-        if constexpr (kFloat<T>) return isa::select(isa::cmpEq(x, acc), isa::bitAnd(x, acc), m);
-        else return m;
+        if constexpr (kFloat<T>) return isa::maxOrdered(x, acc);
+        else return isa::max(x, acc);
     }
 };
 
@@ -318,13 +349,15 @@ public:
             for (int j = 0; j < kVecs; ++j) u[0][k][j] = v_[k][j];
         for (int r = 1; r < kUnroll; ++r) start(u[r]);
         std::int64_t i = 0;
-        for (; i + kUnroll * B <= n; i += kUnroll * B)
+        for (; i + kUnroll * B <= n; i += kUnroll * B) {
+            prefetchAhead(p + i, kUnroll * B * std::int64_t(sizeof(T)));
             for (int r = 0; r < kUnroll; ++r)
-                for (int j = 0; j < kVecs; ++j) fold(u[r], j, isa::loadU(p + i + r * B + j * kLanes<T>));
+                for (int j = 0; j < kVecs; ++j) fold(u[r], j, isa::loadOnce(p + i + r * B + j * kLanes<T>));
+        }
         for (; i + B <= n; i += B)
-            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadU(p + i + j * kLanes<T>));
+            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadOnce(p + i + j * kLanes<T>));
         if (i < n)
-            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadU(p + n - B + j * kLanes<T>));
+            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadOnce(p + n - B + j * kLanes<T>));
         each([&](auto k, auto op) {
             for (int j = 0; j < kVecs; ++j) {
                 V<T> m = u[0][k][j];
