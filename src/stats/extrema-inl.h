@@ -59,25 +59,15 @@ inline void extremes(const T* src, std::int64_t step, RoiL roi, T out[][4]) {
                                   : settle<Higher, T, E>(src, step, roi, c, out[k][c]);
 }
 
-// The exported minimum and maximum: pointers, then the ROI; steps are not
-// tested.
-template <class T, class L>
-inline QvnStatus min(const T* pSrc, std::int64_t srcStep, RoiL roi, T* pMin) {
-    QVN_TRY(check::ptrs(pSrc, pMin));
+// The exported minimum (Op Lower) or maximum (Higher): pointers, then the
+// ROI; steps are not tested.
+template <class Op, class T, class L>
+inline QvnStatus extreme(const T* pSrc, std::int64_t srcStep, RoiL roi, T* pOut) {
+    QVN_TRY(check::ptrs(pSrc, pOut));
     QVN_TRY(check::roi(roi));
     T v[1][4];
-    extremes<T, L, Lower>(pSrc, srcStep, roi, v);
-    for (int c = 0; c < L::kChannels; ++c) pMin[c] = v[0][c];
-    return qvnOk;
-}
-
-template <class T, class L>
-inline QvnStatus max(const T* pSrc, std::int64_t srcStep, RoiL roi, T* pMax) {
-    QVN_TRY(check::ptrs(pSrc, pMax));
-    QVN_TRY(check::roi(roi));
-    T v[1][4];
-    extremes<T, L, Higher>(pSrc, srcStep, roi, v);
-    for (int c = 0; c < L::kChannels; ++c) pMax[c] = v[0][c];
+    extremes<T, L, Op>(pSrc, srcStep, roi, v);
+    for (int c = 0; c < L::kChannels; ++c) pOut[c] = v[0][c];
     return qvnOk;
 }
 
@@ -133,15 +123,6 @@ inline QvnStatus extremeIndex(const T* pSrc, std::int64_t srcStep, RoiL roi, T* 
         pIndexY[c] = int(xy[1]);
     }
     return qvnOk;
-}
-
-template <class T, class L>
-inline QvnStatus minIndex(const T* pSrc, std::int64_t srcStep, RoiL roi, T* pMin, int* pIndexX, int* pIndexY) {
-    return extremeIndex<Lower, T, L>(pSrc, srcStep, roi, pMin, pIndexX, pIndexY);
-}
-template <class T, class L>
-inline QvnStatus maxIndex(const T* pSrc, std::int64_t srcStep, RoiL roi, T* pMax, int* pIndexX, int* pIndexY) {
-    return extremeIndex<Higher, T, L>(pSrc, srcStep, roi, pMax, pIndexX, pIndexY);
 }
 
 }  // namespace stats

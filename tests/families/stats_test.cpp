@@ -198,16 +198,28 @@ void fillExtremes(GuardedImage<T>& img, std::uint32_t seed) {
     img.snapshot();
 }
 
+// An extreme function with its results in out.
+template <class T>
+QvnStatus invoke(ExtFn<T> f, const T* s, int ss, QvnRoiSize r, void* const* o) { return f(s, ss, r, static_cast<T*>(o[0])); }
+template <class T>
+QvnStatus invoke(MinMaxFn<T> f, const T* s, int ss, QvnRoiSize r, void* const* o) {
+    return f(s, ss, r, static_cast<T*>(o[0]), static_cast<T*>(o[1]));
+}
+template <class T>
+QvnStatus invoke(IndexFn<T> f, const T* s, int ss, QvnRoiSize r, void* const* o) {
+    return f(s, ss, r, static_cast<T*>(o[0]), static_cast<int*>(o[1]), static_cast<int*>(o[2]));
+}
+
 // Min, Max and MinMax (highs: which results are maxima), or with index the
 // value and the position of its first occurrence.
-template <class T, class Call>
-void extremes(const std::string& name, int elems, int channels, std::vector<bool> highs, bool index, Call fn) {
+template <class T, class Fn>
+void extremes(const std::string& name, int elems, int channels, std::vector<bool> highs, bool index, Fn fn) {
     ReduceCase<T> c{name, elems, {}};
     for (std::size_t i = 0; i < highs.size(); ++i) c.resultBytes.push_back(channels * int(sizeof(T)));
     if (index) c.resultBytes.insert(c.resultBytes.end(), {channels * 4, channels * 4});
     c.fill = fillExtremes<T>;
     c.acrossTargets = false;
-    c.call = [fn](const T* s, int ss, QvnRoiSize r, void* const* out) { return fn(s, ss, r, out); };
+    c.call = [fn](const T* s, int ss, QvnRoiSize r, void* const* out) { return invoke<T>(fn, s, ss, r, out); };
     c.check = [=](const GuardedImage<T>& src, const unsigned char* const* out) {
         std::string wrong;
         for (int ch = 0; ch < channels && wrong.empty(); ++ch)
@@ -224,29 +236,20 @@ void extremes(const std::string& name, int elems, int channels, std::vector<bool
 
 #define QVN_EXT_LAYOUTS(M, T) M(T, C1, 1, 1) M(T, C3, 3, 3) M(T, C4, 4, 4) M(T, AC4, 4, 3)
 #define QVN_EXT_TYPES(M) QVN_EXT_LAYOUTS(M, 8u) QVN_EXT_LAYOUTS(M, 16u) QVN_EXT_LAYOUTS(M, 16s) QVN_EXT_LAYOUTS(M, 32f)
-#define QVN_OUT(T, i) static_cast<Qvn##T*>(out[i])
 
 TEST(StatsExtrema, MinMaxAndMinMaxFollowTheOrder) {
-#define X(T, C, e, n)                                                                                           \
-    extremes<Qvn##T>("Min_" #T "_" #C "R", e, n, {false}, false,                                                \
-                     [](auto s, int ss, QvnRoiSize r, void* const* out) { return qvniMin_##T##_##C##R(s, ss, r, QVN_OUT(T, 0)); }); \
-    extremes<Qvn##T>("Max_" #T "_" #C "R", e, n, {true}, false,                                                 \
-                     [](auto s, int ss, QvnRoiSize r, void* const* out) { return qvniMax_##T##_##C##R(s, ss, r, QVN_OUT(T, 0)); }); \
-    extremes<Qvn##T>("MinMax_" #T "_" #C "R", e, n, {false, true}, false, [](auto s, int ss, QvnRoiSize r, void* const* out) { \
-        return qvniMinMax_##T##_##C##R(s, ss, r, QVN_OUT(T, 0), QVN_OUT(T, 1));                                \
-    });
+#define X(T, C, e, n)                                                                                 \
+    extremes<Qvn##T>("Min_" #T "_" #C "R", e, n, {false}, false, qvniMin_##T##_##C##R);              \
+    extremes<Qvn##T>("Max_" #T "_" #C "R", e, n, {true}, false, qvniMax_##T##_##C##R);               \
+    extremes<Qvn##T>("MinMax_" #T "_" #C "R", e, n, {false, true}, false, qvniMinMax_##T##_##C##R);
     QVN_EXT_TYPES(X)
 #undef X
 }
 
 TEST(StatsExtrema, IndexFormsReportTheFirstOccurrence) {
-#define X(T, C, e, n)                                                                                           \
-    extremes<Qvn##T>("MinIndx_" #T "_" #C "R", e, n, {false}, true, [](auto s, int ss, QvnRoiSize r, void* const* out) { \
-        return qvniMinIndx_##T##_##C##R(s, ss, r, QVN_OUT(T, 0), static_cast<int*>(out[1]), static_cast<int*>(out[2])); \
-    });                                                                                                         \
-    extremes<Qvn##T>("MaxIndx_" #T "_" #C "R", e, n, {true}, true, [](auto s, int ss, QvnRoiSize r, void* const* out) { \
-        return qvniMaxIndx_##T##_##C##R(s, ss, r, QVN_OUT(T, 0), static_cast<int*>(out[1]), static_cast<int*>(out[2])); \
-    });
+#define X(T, C, e, n)                                                                                 \
+    extremes<Qvn##T>("MinIndx_" #T "_" #C "R", e, n, {false}, true, qvniMinIndx_##T##_##C##R);       \
+    extremes<Qvn##T>("MaxIndx_" #T "_" #C "R", e, n, {true}, true, qvniMaxIndx_##T##_##C##R);
     QVN_EXT_TYPES(X)
 #undef X
 }
