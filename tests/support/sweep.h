@@ -2,8 +2,9 @@
 // or more rows, with and without row gaps), every image of a call placed on
 // its own (start offset within a vector, page end in some shapes), the one
 // place where a function under test is called, a whole-ROI comparison that
-// names the first differing (x, y, channel), the elementwise sweep and the
-// channel-map sweep of the copies, fills and channel shuffles.
+// names the first differing (x, y, channel), the elementwise sweep, the
+// reduction sweep (results written through pointers) and the channel-map
+// sweep of the copies, fills and channel shuffles.
 #ifndef QVN_TESTS_SUPPORT_SWEEP_H
 #define QVN_TESTS_SUPPORT_SWEEP_H
 
