@@ -177,6 +177,7 @@ struct Case {
     std::function<std::string()> check;
     double bytes = 0;       // read plus written by one call; 0: not memory bound
     bool inPlace = false;   // bounded by the read-modify-write stream, not the copy
+    bool readOnly = false;  // a reduction: bounded by the read stream
     double pixels = 0;
 };
 
@@ -298,6 +299,45 @@ std::pair<Peer, Factory> binary(int ch, Ours ours, Other<F> other, Opts opts = {
     auto o = [ours](const std::vector<Image<T>>& s, std::vector<Image<T>>& d) { return ours(s[0], s[1], d[0]); };
     auto f = [fn = other.fn](const std::vector<Image<T>>& s, std::vector<Image<T>>& d) { fn(s[0], s[1], d[0]); };
     return images<T, T>({ch, ch}, {ch}, o, Other<decltype(f)>{other.peer, f}, opts);
+}
+
+// A reduction: ours(src, out) writes `results` values (sums, extremes,
+// positions, as doubles) to out, other.fn(src, out) the expected ones;
+// compared within the relative tolerance. The source is only read, so the
+// read stream bounds it.
+template <class S, class Ours, class F>
+std::pair<Peer, Factory> reduction(int ch, int results, Ours ours, Other<F> other, Opts opts = {}) {
+    const Peer peer = other.peer;
+    Factory make = [=](Size z) {
+        auto src = std::make_shared<Image<S>>(z.w, z.h, ch);
+        auto got = std::make_shared<std::vector<double>>(results), want = std::make_shared<std::vector<double>>(results);
+        Rng rng(std::uint64_t(z.w) * 7919 + z.h);
+        fillRandom(*src, opts.ranges.empty() ? defaultRange<S>() : opts.ranges[0], rng);
+        if (opts.shape) opts.shape(0, src.get());
+        auto c = std::make_unique<Case>();
+        c->bytes = double(src->bytes());
+        c->readOnly = true;
+        c->pixels = double(z.w) * z.h;
+        c->ours = [=] { ours(*src, got->data()); };
+        if (peer != Peer::None) c->peer = [=, fn = other.fn] { fn(*src, want->data()); };
+        c->check = [=, fn = other.fn, tol = opts.tol]() -> std::string {
+            const QvnStatus st = ours(*src, got->data());
+            if (st != qvnOk) return "status " + std::to_string(st);
+            fn(*src, want->data());
+            for (int i = 0; i < results; ++i) {
+                const double g = (*got)[std::size_t(i)], w = (*want)[std::size_t(i)];
+                if (!(g == w || std::fabs(g - w) <= tol * std::fabs(w))) {
+                    std::ostringstream s;
+                    s.precision(17);
+                    s << "result " << i << " got " << g << " want " << w;
+                    return s.str();
+                }
+            }
+            return {};
+        };
+        return c;
+    };
+    return {peer, make};
 }
 
 // Every destination written by the other side, for references that fill

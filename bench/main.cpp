@@ -82,6 +82,16 @@ struct Settings {
     int repetitions() const { return quick ? 3 : 5; }
 };
 
+// Bandwidth streams: a 4-byte-per-pixel image at each size (what the
+// operations at that size can at best stream), and buffers far larger than
+// any cache (the machine's memory). A case is bounded by the copy, the
+// read-modify-write (in place) or the read stream (reductions).
+struct Stream {
+    enum Kind { kCopy, kRmw, kRead };
+    std::string where;
+    std::size_t bytes;
+};
+
 // Cases are built when their first benchmark runs and dropped when the next
 // operation starts, so that only one operation's images are alive at a time.
 // Building a case runs its output check.
@@ -101,20 +111,20 @@ public:
                 std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(kSizes[size])).c_str());
             entry_.c = registry()[op].make(kSizes[size]);
             entry_.error = checkEveryTarget(*entry_.c);
-            facts_[key] = {entry_.c->bytes, entry_.c->inPlace};
+            facts_[key] = {entry_.c->bytes, entry_.c->inPlace ? Stream::kRmw : entry_.c->readOnly ? Stream::kRead : Stream::kCopy};
         }
         return entry_;
     }
-    // Bytes per call and whether the case works in place, of every case built so far.
-    std::pair<double, bool> facts(std::size_t op, std::size_t size) const {
+    // Bytes per call and the bandwidth stream that bounds the case, of every case built so far.
+    std::pair<double, int> facts(std::size_t op, std::size_t size) const {
         auto it = facts_.find({op, size});
-        return it == facts_.end() ? std::make_pair(0.0, false) : it->second;
+        return it == facts_.end() ? std::make_pair(0.0, 0) : it->second;
     }
 
 private:
     std::pair<std::size_t, std::size_t> key_{~std::size_t(0), 0};
     Entry entry_;
-    std::map<std::pair<std::size_t, std::size_t>, std::pair<double, bool>> facts_;
+    std::map<std::pair<std::size_t, std::size_t>, std::pair<double, int>> facts_;
 };
 
 CaseCache& cache() {
@@ -151,13 +161,6 @@ void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
     st.SetItemsProcessed(std::int64_t(e.c->pixels * double(st.iterations())));  // pixels per second
 }
 
-// Bandwidth streams: a 4-byte-per-pixel image at each size (what the
-// operations at that size can at best stream), and buffers far larger than
-// any cache (the machine's memory).
-struct Stream {
-    std::string where;
-    std::size_t bytes;
-};
 
 std::vector<Stream> streams() {
     std::vector<Stream> s;
@@ -166,14 +169,15 @@ std::vector<Stream> streams() {
     return s;
 }
 
-void runStream(benchmark::State& st, std::size_t bytes, bool rmw) {
+void runStream(benchmark::State& st, std::size_t bytes, int kind) {
     BandwidthCase b(bytes);
     for (auto _ : st) {
-        if (rmw) b.rmw();
+        if (kind == Stream::kRmw) b.rmw();
+        else if (kind == Stream::kRead) b.read();
         else b.copy();
         benchmark::ClobberMemory();
     }
-    st.SetBytesProcessed(std::int64_t(b.bytesPerCall() * double(st.iterations())));
+    st.SetBytesProcessed(std::int64_t(b.bytesPerCall() / (kind == Stream::kRead ? 2 : 1) * double(st.iterations())));
 }
 
 // Keeps the fastest repetition of every case, in seconds per call; also
@@ -296,8 +300,9 @@ int main(int argc, char** argv) {
     if (s.checkOnly) return checkAll(s);
 
     for (const Stream& st : streams()) {
-        add("bandwidth/copy/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, false); });
-        add("bandwidth/rmw/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, true); });
+        add("bandwidth/copy/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kCopy); });
+        add("bandwidth/rmw/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kRmw); });
+        add("bandwidth/read/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kRead); });
     }
     const std::vector<OpDef>& ops = registry();
     std::size_t selected = 0;
@@ -328,7 +333,7 @@ int main(int argc, char** argv) {
       << "ours:    " << v->name << " " << v->version << "\n"
       << "opencv:  " << cv::getVersionString() << ", 1 thread, " << cv::getCPUFeaturesLine() << "\n"
       << "times:   ns per pixel, fastest of " << s.repetitions() << " runs of at least " << s.minTime()
-      << " s each; bound = bytes read + written at the copy (rmw for in-place) bandwidth of the same size\n";
+      << " s each; bound = bytes read + written at the copy (rmw for in-place, read for reductions) bandwidth of the same size\n";
     r.header = h.str();
 
     const double kGB = 1e9;
@@ -336,7 +341,8 @@ int main(int argc, char** argv) {
     for (const Stream& st : streams()) {
         const double bytes = 2.0 * double(st.bytes);
         BandwidthRow b{st.where, bytes / collector.seconds("bandwidth/copy/" + st.where) / kGB,
-                       bytes / collector.seconds("bandwidth/rmw/" + st.where) / kGB};
+                       bytes / collector.seconds("bandwidth/rmw/" + st.where) / kGB,
+                       bytes / 2 / collector.seconds("bandwidth/read/" + st.where) / kGB};
         bw[st.where] = b;
         r.bandwidth.push_back(b);
     }
@@ -360,9 +366,10 @@ int main(int argc, char** argv) {
                 const double t = collector.seconds(benchName(ops[o], z, kPeerSide)) * 1e9 / pixels;
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
-            const auto [bytes, inPlace] = cache().facts(o, zi);
+            const auto [bytes, stream] = cache().facts(o, zi);
             const BandwidthRow& b = bw[sizeName(z)];
-            if (bytes > 0) row.bound = bytes / ((inPlace ? b.rmw : b.copy) * kGB) * 1e9 / pixels;
+            const double gbs = stream == Stream::kRmw ? b.rmw : stream == Stream::kRead ? b.read : b.copy;
+            if (bytes > 0) row.bound = bytes / (gbs * kGB) * 1e9 / pixels;
             failed |= !row.error.empty();
             r.rows.push_back(row);
         }

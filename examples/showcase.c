@@ -2,8 +2,8 @@
  *
  *   qvnip_showcase OUTDIR
  *
- * writes the test image and the results of fills, copies, conversions and
- * arithmetic as PNG files into OUTDIR, and OUTDIR/index.html, which shows
+ * writes the test image and the results of fills, copies, conversions,
+ * arithmetic and statistics as PNG files into OUTDIR, and OUTDIR/index.html, which shows
  * each picture with a sentence saying what it shows and which function made
  * it; one line per file on standard output. Every call takes (pointer, step
  * in bytes) pairs and a QvnRoiSize, and returns a QvnStatus: 0 ok, < 0 error,
@@ -28,6 +28,9 @@
 #endif
 #if defined(QVN_HAS_qvniAdd_8u_C3RSfs) && defined(QVN_HAS_qvniSub_8u_C3RSfs)
 #define SHOW_ARITH 1
+#endif
+#if defined(QVN_HAS_qvniMean_8u_C3R) && defined(QVN_HAS_qvniMinIndx_8u_C3R) && defined(QVN_HAS_qvniMaxIndx_8u_C3R)
+#define SHOW_STATS 1
 #endif
 
 enum { W = 512, H = 384, MAX_PICTURES = 32 };
@@ -230,6 +233,27 @@ static void drawCheckerboard(Qvn8u* img, int step) {
             ok("qvniSet_8u_C3R", qvniSet_8u_C3R(((x ^ y) & 32) ? light : dark, img + (size_t)y * step + 3 * x, step, tile));
 }
 
+#ifdef SHOW_STATS
+static void copyImage(const Qvn8u* from, Qvn8u* to, int step) {
+    int y;
+    for (y = 0; y < H; ++y) memcpy(to + (size_t)y * step, from + (size_t)y * step, 3 * W);
+}
+
+/* A cross of 15 x 15 pixels, 3 wide, around (x, y), clipped to the image. */
+static void drawCross(Qvn8u* img, int step, int x, int y, Qvn8u v) {
+    const Qvn8u px[3] = {v, v, v};
+    int i;
+    for (i = -7; i <= 7; ++i) {
+        const int a = x + i, b = y + i;
+        int t;
+        for (t = -1; t <= 1; ++t) {
+            if (a >= 0 && a < W && y + t >= 0 && y + t < H) memcpy(img + (size_t)(y + t) * step + 3 * a, px, 3);
+            if (b >= 0 && b < H && x + t >= 0 && x + t < W) memcpy(img + (size_t)b * step + 3 * (x + t), px, 3);
+        }
+    }
+}
+#endif
+
 int main(int argc, char** argv) {
     const QvnVersionInfo* v = qvniGetLibVersion();
     int step = 0;
@@ -362,6 +386,37 @@ int main(int argc, char** argv) {
                            out, astep, W, H, 3);
         }
         qvniFree(out);
+    }
+#endif
+
+#ifdef SHOW_STATS
+    /* Statistics: the mean of each channel of the test image, and the
+     * first pixel (in row-major order) holding each channel's minimum and
+     * maximum, marked by a cross of that channel's colour (black for a
+     * minimum, white for a maximum). */
+    {
+        static char caption[512];
+        const QvnRoiSize whole = {W, H};
+        Qvn64f mean[3];
+        Qvn8u lo[3], hi[3];
+        int lx[3], ly[3], hx[3], hy[3], c;
+        copyImage(img, work, step);
+        if (ok("qvniMean_8u_C3R", qvniMean_8u_C3R(img, step, whole, mean)) &&
+            ok("qvniMinIndx_8u_C3R", qvniMinIndx_8u_C3R(img, step, whole, lo, lx, ly)) &&
+            ok("qvniMaxIndx_8u_C3R", qvniMaxIndx_8u_C3R(img, step, whole, hi, hx, hy))) {
+            for (c = 0; c < 3; ++c) {
+                drawCross(work, step, lx[c], ly[c], 0);
+                drawCross(work, step, hx[c], hy[c], 255);
+            }
+            snprintf(caption, sizeof caption,
+                     "Crosses on the first pixel of each channel's minimum (black) and maximum (white), found by "
+                     "<code>qvniMinIndx_8u_C3R</code> and <code>qvniMaxIndx_8u_C3R</code>: red %d at (%d, %d) and "
+                     "%d at (%d, %d), green %d at (%d, %d) and %d at (%d, %d), blue %d at (%d, %d) and %d at "
+                     "(%d, %d). The means by <code>qvniMean_8u_C3R</code> are %.3f, %.3f and %.3f.",
+                     lo[0], lx[0], ly[0], hi[0], hx[0], hy[0], lo[1], lx[1], ly[1], hi[1], hx[1], hy[1], lo[2],
+                     lx[2], ly[2], hi[2], hx[2], hy[2], mean[0], mean[1], mean[2]);
+            writeImage("stats_extremes.png", caption, work, step, W, H, 3);
+        }
     }
 #endif
 

@@ -6,5 +6,6 @@
 #include "qvnip_arith.h"
 #include "qvnip_core.h"
 #include "qvnip_move.h"
+#include "qvnip_stats.h"
 
 #endif /* QVNIP_H */

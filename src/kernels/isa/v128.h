@@ -573,6 +573,32 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
 }
 #endif
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a.v, _mm_setzero_si128())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) {
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+}
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+x"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is
+// NaN (minps and maxps return their second operand then).
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_or_ps(_mm_min_ps(x.v, acc.v), _mm_and_ps(_mm_cmpeq_ps(x.v, acc.v), x.v))};
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_andnot_ps(_mm_andnot_ps(x.v, _mm_cmpeq_ps(x.v, acc.v)), _mm_max_ps(x.v, acc.v))};
+}
+
 }  // namespace v128
 QVN_TARGET_END
 
