@@ -8,6 +8,204 @@
 QVN_BEGIN_DECLS
 
 
+/* Two sources: And gives src1 & src2, Or src1 | src2, Xor src1 ^ src2,
+ * bit by bit. AC4 never changes the destination's alpha (the vector code may
+ * store it back as it read it; see qvnip_types.h).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniAnd_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_C1IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_C3IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_C4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_C4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_AC4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_8u_AC4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C1R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C1IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C3R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C3IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_C4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_AC4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_16u_AC4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C1R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C1IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C3R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C3IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_C4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_AC4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAnd_32s_AC4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C1IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C3IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_C4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_AC4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_8u_AC4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C1R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C1IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C3R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C3IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_C4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_AC4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_16u_AC4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C1R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C1IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C3R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C3IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_C4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_AC4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOr_32s_AC4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C1IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C3IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_C4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_AC4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_8u_AC4IR(const Qvn8u* pSrc, int srcStep, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C1R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C1IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C3R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C3IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_C4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_AC4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_16u_AC4IR(const Qvn16u* pSrc, int srcStep, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C1R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C1IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C3R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C3IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_C4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_AC4R(const Qvn32s* pSrc1, int src1Step, const Qvn32s* pSrc2, int src2Step, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXor_32s_AC4IR(const Qvn32s* pSrc, int srcStep, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
+/* Image and constant: src & value, src | value, src ^ value; C3 and AC4
+ * take 3 values, C4 takes 4. AC4 keeps alpha as the two-source forms do.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniAndC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_C1IR(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C1IR(Qvn16u value, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s value, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C1IR(Qvn32s value, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_C3IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_C4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_8u_AC4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C3IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_C4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_16u_AC4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C3R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C3IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_C4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_AC4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniAndC_32s_AC4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C1IR(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C1IR(Qvn16u value, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s value, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C1IR(Qvn32s value, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C3IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_C4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_8u_AC4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C3IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_C4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_16u_AC4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C3R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C3IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_C4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_AC4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniOrC_32s_AC4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C1IR(Qvn8u value, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C1IR(Qvn16u value, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s value, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C1IR(Qvn32s value, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C3IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_C4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_8u_AC4IR(const Qvn8u* pValue, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C3IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_C4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_16u_AC4IR(const Qvn16u* pValue, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C3R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C3IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_C4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_AC4R(const Qvn32s* pSrc, int srcStep, const Qvn32s* pValue, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniXorC_32s_AC4IR(const Qvn32s* pValue, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
+/* Not: the bitwise complement of every element. AC4 keeps alpha.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniNot_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniNot_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
+/* Complement: each element read as sign and magnitude (top bit the sign)
+ * becomes the same number in two's complement: 0x8005 gives -5 (16s), a
+ * clear sign bit leaves the element as it is, and the negative zero (0x8000
+ * for 16s) gives the type's minimum. AC4 keeps alpha.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniComplement_8s_C1R(const Qvn8s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_C1IR(Qvn8s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_C3R(const Qvn8s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_C3IR(Qvn8s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_C4R(const Qvn8s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_C4IR(Qvn8s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_AC4R(const Qvn8s* pSrc, int srcStep, Qvn8s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_8s_AC4IR(Qvn8s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C1IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C3R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C3IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniComplement_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
 /* Two-source arithmetic: Add gives src1 + src2, Sub src2 - src1, Mul src1 * src2.
  * Integer results are multiplied by 2^-scaleFactor (ties to even) and
  * saturated. AC4 never changes the destination's alpha (the vector code may
