@@ -206,6 +206,72 @@ QVN_API QvnStatus qvniComplement_32s_C4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRo
 QVN_API QvnStatus qvniComplement_32s_AC4R(const Qvn32s* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniComplement_32s_AC4IR(Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 
+/* Shifts by a constant count, one count for C1 and one per channel
+ * otherwise (3 for C3 and AC4, 4 for C4), read as unsigned: LShiftC gives
+ * src << count, dropping the bits shifted out; RShiftC gives src >> count,
+ * logical for 8u and 16u, arithmetic (filling with the sign) for 16s and 32s.
+ * No count is an error: 0 copies, and from the bit width of the type up
+ * (which takes in every count that is negative read as signed) the result is
+ * 0, or for 16s and 32s the sign fill (0 or -1). AC4 keeps alpha.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniLShiftC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn32u count, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_C1IR(Qvn32u count, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn32u count, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C1IR(Qvn32u count, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32u count, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C1IR(Qvn32u count, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_C3IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_C4IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_8u_AC4IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C3IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_C4IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_16u_AC4IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C3R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C3IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C4R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_C4IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_AC4R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniLShiftC_32s_AC4IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn32u count, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C1IR(Qvn32u count, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn32u count, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C1IR(Qvn32u count, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn32u count, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C1IR(Qvn32u count, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C1R(const Qvn32s* pSrc, int srcStep, Qvn32u count, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C1IR(Qvn32u count, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C3IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_C4IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn32u* pCount, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_8u_AC4IR(const Qvn32u* pCount, Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C3IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_C4IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn32u* pCount, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16u_AC4IR(const Qvn32u* pCount, Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C3R(const Qvn16s* pSrc, int srcStep, const Qvn32u* pCount, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C3IR(const Qvn32u* pCount, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C4R(const Qvn16s* pSrc, int srcStep, const Qvn32u* pCount, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_C4IR(const Qvn32u* pCount, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_AC4R(const Qvn16s* pSrc, int srcStep, const Qvn32u* pCount, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_16s_AC4IR(const Qvn32u* pCount, Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C3R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C3IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C4R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_C4IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_AC4R(const Qvn32s* pSrc, int srcStep, const Qvn32u* pCount, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize);
+QVN_API QvnStatus qvniRShiftC_32s_AC4IR(const Qvn32u* pCount, Qvn32s* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
+
 /* Two-source arithmetic: Add gives src1 + src2, Sub src2 - src1, Mul src1 * src2.
  * Integer results are multiplied by 2^-scaleFactor (ties to even) and
  * saturated. AC4 never changes the destination's alpha (the vector code may

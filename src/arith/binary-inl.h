@@ -42,6 +42,19 @@ inline QvnStatus runRows(const T* x, std::int64_t xStep, const T* y, std::int64_
     }
 }
 
+// Runs a one-source kernel (kern(x, value), the value the same for every
+// element) over the rows: C1, C3 and C4 rows are one run of width x channels
+// elements, AC4 keeps every fourth.
+template <class T, class L, class Kern>
+inline QvnStatus runUnary(const T* x, std::int64_t xStep, T* d, std::int64_t dStep, RoiL roi, Kern&& kern,
+                          T value = T()) {
+    const T all[4] = {value, value, value, value};
+    if constexpr (L::kAlpha)
+        return runRows<T, AC4, true>(x, xStep, all, 0, d, dStep, roi, kern);
+    else
+        return runRows<T, C1, true>(x, xStep, all, 0, d, dStep, RoiL{roi.width * L::kElems, roi.height}, kern);
+}
+
 // Chooses the scale-factor path once and runs its kernel: x op y for every
 // element, or a fill with 0 when no result can be non-zero.
 template <class Op, class T, class L, bool Const>

@@ -2,7 +2,9 @@
 // qvniComplement against their models.
 #include <gtest/gtest.h>
 
+#include <array>
 #include <cstdint>
+#include <cstring>
 #include <type_traits>
 
 #include "families/arith_forms.h"
@@ -97,6 +99,73 @@ TEST(Logic, NotAndComplement) {
     EXPECT_EQ(d[0], -5);
     EXPECT_EQ(d[1], 5);
     EXPECT_EQ(d[2], -32768);
+}
+
+// x shifted by n as the Part says: bits beyond the type are lost, counts from
+// the width up give 0 (or the sign fill of a signed right shift).
+template <class T>
+T shiftModel(bool left, T x, Qvn32u n) {
+    const Qvn32u bits = 8 * sizeof(T);
+    const std::int64_t v = x;
+    if (left) return n >= bits ? T(0) : T(std::uint64_t(v) << n);
+    if (n >= bits) return std::is_signed_v<T> && x < 0 ? T(-1) : T(0);
+    return T(v >> n);  // the flooring shift of the wide value
+}
+
+// Per-channel count sets: equal (copy, ordinary, clearing, 0xFFFFFFFF) and
+// different (some clearing, all clearing, with zero). They lie right before
+// an inaccessible page, so a fourth read for AC4 faults.
+struct PageEndCounts : GuardedImage<Qvn32u> {
+    explicit PageEndCounts(int set) : GuardedImage<Qvn32u>(Layout{4, 1, 1, 0, true, std::uint32_t(set)}) {
+        static const Qvn32u kSets[][4] = {{0, 0, 0, 0},     {3, 3, 3, 3},     {8, 8, 8, 8},       {0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF, 0xFFFFFFFF},
+                                          {1, 9, 0, 15},    {31, 16, 7, 2},   {40, 33, 32, 0x80000000}, {0, 1, 2, 3},
+                                          {15, 15, 15, 15}, {7, 7, 7, 7}};
+        for (int k = 0; k < 4; ++k) at(k, 0) = kSets[set][k];
+        snapshot();
+    }
+    static constexpr int kSetCount = 10;
+};
+
+template <class T>
+void shiftForm(std::string name, bool left, int elems, bool alpha, bool inPlace, const Qvn32u* k,
+               ArithCall<T> call, const Shapes& shapes) {
+    ElementCase<T> c(name + " counts " + std::to_string(k[0]) + "," + std::to_string(k[3]), elems, alpha, 1, inPlace);
+    c.fill = fillMixed<T>;
+    c.call = std::move(call);
+    const int n = alpha ? 3 : elems;
+    std::array<Qvn32u, 4> kv{};
+    for (int ch = 0; ch < n; ++ch) kv[std::size_t(ch)] = k[4 - n + ch];
+    c.model = [left, kv](const T* v, int ch) { return shiftModel<T>(left, v[0], kv[std::size_t(ch)]); };
+    sweep(c, shapes);
+}
+
+#define QVN_SHIFT(OP, left, T)                                                                                    \
+    for (int set = 0; set < PageEndCounts::kSetCount; ++set) {                                                    \
+        const PageEndCounts kc(set);                                                                              \
+        const Qvn32u* k = kc.data();                                                                              \
+        const Shapes& every = set < 2 || set == 4 ? kShapes : kOneShape;                                          \
+        shiftForm<Qvn##T>(#OP "_" #T "_C1R", left, 1, false, false, k, QVN_ECALL(qvni##OP##_##T##_C1R(s[0], ss[0], k[3], d, ds, r)), every); \
+        shiftForm<Qvn##T>(#OP "_" #T "_C1IR", left, 1, false, true, k, QVN_ECALL(qvni##OP##_##T##_C1IR(k[3], d, ds, r)), kOneShape); \
+        shiftForm<Qvn##T>(#OP "_" #T "_C3R", left, 3, false, false, k, QVN_ECALL(qvni##OP##_##T##_C3R(s[0], ss[0], k + 1, d, ds, r)), every); \
+        shiftForm<Qvn##T>(#OP "_" #T "_C4IR", left, 4, false, true, k, QVN_ECALL(qvni##OP##_##T##_C4IR(k, d, ds, r)), kOneShape); \
+        shiftForm<Qvn##T>(#OP "_" #T "_AC4R", left, 4, true, false, k, QVN_ECALL(qvni##OP##_##T##_AC4R(s[0], ss[0], k + 1, d, ds, r)), kOneShape); \
+        shiftForm<Qvn##T>(#OP "_" #T "_AC4IR", left, 4, true, true, k, QVN_ECALL(qvni##OP##_##T##_AC4IR(k + 1, d, ds, r)), kOneShape); \
+        if (::testing::Test::HasFailure()) return;                                                                \
+    }
+
+TEST(Logic, ShiftsByEveryKindOfCount) {
+    QVN_SHIFT(LShiftC, true, 8u) QVN_SHIFT(LShiftC, true, 16u) QVN_SHIFT(LShiftC, true, 32s)
+    QVN_SHIFT(RShiftC, false, 8u) QVN_SHIFT(RShiftC, false, 16u) QVN_SHIFT(RShiftC, false, 16s)
+    QVN_SHIFT(RShiftC, false, 32s)
+}
+
+// The Part's worked examples, against the model the sweeps use.
+TEST(Logic, ShiftModelMatchesWorkedExamples) {
+    EXPECT_EQ(shiftModel<Qvn8u>(true, 0xFF, 8), 0);
+    EXPECT_EQ(shiftModel<Qvn8u>(true, 0xFF, 0xFFFFFFFF), 0);
+    EXPECT_EQ(shiftModel<Qvn16s>(false, -5, 40), -1);
+    EXPECT_EQ(shiftModel<Qvn16s>(false, 5, 40), 0);
+    EXPECT_EQ(shiftModel<Qvn16s>(false, -5, 1), -3);
 }
 
 }  // namespace
