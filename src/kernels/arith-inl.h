@@ -254,6 +254,19 @@ struct Unwatched {
     void skipLanes(M) {}
 };
 
+// A kernel that reports a condition some element met (a zero divisor, a
+// negative square root) flags it here: lanes of a vector, with the alpha
+// lanes masked off, or an element of the scalar head and tail.
+template <class T>
+struct Watch {
+    V<T> seen = isa::zero<T>(), skip = isa::zero<T>();
+    bool seenScalar = false;
+    void skipLanes(V<T> alpha) { skip = alpha; }
+    void flag(V<T> lanes) { seen = isa::bitOr(seen, isa::andNot(skip, lanes)); }
+    void flag(bool met) { seenScalar |= met; }
+    bool met() const { return seenScalar || isa::anyTrue(seen); }
+};
+
 template <class Op, class T, class Path>
 struct SfsKernel : Unwatched {
     Path path;
