@@ -1,7 +1,8 @@
 // qvniAnd, qvniOr, qvniXor with their constant forms, qvniNot,
 // qvniComplement, qvniLShiftC and qvniRShiftC. Every one is an elementwise
-// kernel of the arithmetic row template (kernels::arith::row), and all test
-// their steps before the ROI size.
+// kernel of the arithmetic row template (kernels::arith::row), and every one
+// checks pointers (the constant or count array included), then steps below
+// 1, then the ROI size.
 #ifndef QVN_ARITH_LOGIC_INL_H
 #define QVN_ARITH_LOGIC_INL_H
 
@@ -10,6 +11,7 @@
 #include <type_traits>
 
 #include "arith/binary-inl.h"
+#include "core/stream-inl.h"
 #include "move/copy-inl.h"
 
 QVN_TARGET_BEGIN
@@ -62,15 +64,33 @@ struct ComplementKernel : kernels::arith::Unwatched {
     }
 };
 
-// Every function here checks pointers (the constant or count array
-// included), then steps below 1, then the ROI.
+// Results of images that would only evict the cache are written with
+// non-temporal stores, by the rule of the copies and fills: from the fills'
+// count of destination bytes on, when the bytes read and written reach the
+// largest cache. AC4 rows, which read the alpha they keep, never stream.
+// run(store) runs the rows with that store policy.
+template <class T, class L, class Run>
+inline QvnStatus withBitStores(RoiL roi, int sources, Run run) {
+    if constexpr (!L::kAlpha) {
+        const std::uint64_t bytes = std::uint64_t(roi.width) * std::uint64_t(roi.height) * L::kElems * sizeof(T);
+        if (useStreamingStores(bytes, kStreamThreshold, bytes * std::uint64_t(sources + 1))) {
+            const QvnStatus s = run(kernels::StoreStreaming{});
+            isa::storeFence();
+            return s;
+        }
+    }
+    return run(kernels::StoreRegular{});
+}
+
 template <class Op, class T, class L>
 inline QvnStatus logic(const T* src1, std::int64_t src1Step, const T* src2, std::int64_t src2Step, T* dst,
                        std::int64_t dstStep, RoiL roi) {
     QVN_TRY(check::ptrs(src1, src2, dst));
     QVN_TRY(check::steps(src1Step, src2Step, dstStep));
     QVN_TRY(check::roi(roi));
-    return runRows<T, L, false>(src1, src1Step, src2, src2Step, dst, dstStep, roi, BitKernel<Op>{});
+    return withBitStores<T, L>(roi, 2, [&](auto store) {
+        return runRows<T, L, false, decltype(store)>(src1, src1Step, src2, src2Step, dst, dstStep, roi, BitKernel<Op>{});
+    });
 }
 
 // Per-channel constants that are all equal: C3 and C4 rows become one run of
@@ -88,10 +108,13 @@ inline QvnStatus logicConst(const T* src, std::int64_t srcStep, const T* value, 
     QVN_TRY(check::ptrs(src, value, dst));
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::roi(roi));
-    if (!L::kAlpha && sameForEveryChannel<L>(value))
-        return runRows<T, C1, true>(src, srcStep, value, 0, dst, dstStep, RoiL{roi.width * L::kElems, roi.height},
-                                    BitKernel<Op>{});
-    return runRows<T, L, true>(src, srcStep, value, 0, dst, dstStep, roi, BitKernel<Op>{});
+    return withBitStores<T, L>(roi, 1, [&](auto store) {
+        using Store = decltype(store);
+        if (!L::kAlpha && sameForEveryChannel<L>(value))
+            return runRows<T, C1, true, Store>(src, srcStep, value, 0, dst, dstStep,
+                                               RoiL{roi.width * L::kElems, roi.height}, BitKernel<Op>{});
+        return runRows<T, L, true, Store>(src, srcStep, value, 0, dst, dstStep, roi, BitKernel<Op>{});
+    });
 }
 
 template <class T, class L>
@@ -99,7 +122,9 @@ inline QvnStatus logicNot(const T* src, std::int64_t srcStep, T* dst, std::int64
     QVN_TRY(check::ptrs(src, dst));
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::roi(roi));
-    return runUnary<T, L>(src, srcStep, dst, dstStep, roi, BitKernel<XorOp>{}, T(~T(0)));
+    return withBitStores<T, L>(roi, 1, [&](auto store) {
+        return runUnary<T, L, decltype(store)>(src, srcStep, dst, dstStep, roi, BitKernel<XorOp>{}, T(~T(0)));
+    });
 }
 
 template <class T, class L>
@@ -107,7 +132,9 @@ inline QvnStatus complement(const T* src, std::int64_t srcStep, T* dst, std::int
     QVN_TRY(check::ptrs(src, dst));
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(check::roi(roi));
-    return runUnary<T, L>(src, srcStep, dst, dstStep, roi, ComplementKernel{});
+    return withBitStores<T, L>(roi, 1, [&](auto store) {
+        return runUnary<T, L, decltype(store)>(src, srcStep, dst, dstStep, roi, ComplementKernel{});
+    });
 }
 
 // ---- shifts by a constant count ----------------------------------------------------------
@@ -188,16 +215,19 @@ inline QvnStatus shiftConst(const T* src, std::int64_t srcStep, const Qvn32u* co
     bool allClear = kClears;
     for (int k = 0; k < L::kChannels; ++k) allClear &= counts[k] >= kBits;
     if (allClear) return move::fill<T, L>(zero, dst, dstStep, roi);
-    if (sameForEveryChannel<L>(counts)) {
-        if (counts[0] == 0) {
-            if (src == dst && srcStep == dstStep) return qvnOk;
-            return move::copyPixels<T, L>(src, srcStep, dst, dstStep, roi);
-        }
-        return runUnary<T, L>(src, srcStep, dst, dstStep, roi, ShiftKernel<Left, T>{{}, Shift<Left, T>(clampCount<T>(counts[0]))});
+    if (sameForEveryChannel<L>(counts) && counts[0] == 0) {
+        if (src == dst && srcStep == dstStep) return qvnOk;
+        return move::copyPixels<T, L>(src, srcStep, dst, dstStep, roi);
     }
     const T channel[4] = {0, 1, 2, 3};
-    return runRows<T, L, true>(src, srcStep, channel, 0, dst, dstStep, roi,
-                               ShiftByChannel<Left, T, L::kChannels>(counts));
+    return withBitStores<T, L>(roi, 1, [&](auto store) {
+        using Store = decltype(store);
+        if (sameForEveryChannel<L>(counts))
+            return runUnary<T, L, Store>(src, srcStep, dst, dstStep, roi,
+                                         ShiftKernel<Left, T>{{}, Shift<Left, T>(clampCount<T>(counts[0]))});
+        return runRows<T, L, true, Store>(src, srcStep, channel, 0, dst, dstStep, roi,
+                                          ShiftByChannel<Left, T, L::kChannels>(counts));
+    });
 }
 
 template <class T, class L>
