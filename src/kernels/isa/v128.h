@@ -336,6 +336,9 @@ inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm_cvtepi32_ps(a.v)}; 
 inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm_cvtps_epi32(a.v)}; }
 // Converts rounding toward zero; out-of-range lanes give INT32_MIN.
 inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm_cvttps_epi32(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm_sqrt_pd(a.v)}; }
 
 // ---- type conversion and scaling ------------------------------------------------------
 // Double lanes from the low two int32 lanes (exact).

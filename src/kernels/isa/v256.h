@@ -178,6 +178,9 @@ inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm256_div_ps(a.v, b
 inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm256_div_pd(a.v, b.v)}; }
 // The same approximation as the 16-byte layer's (rcpps, eight lanes).
 inline Vec<float> rcpApprox(Vec<float> a) { return {_mm256_rcp_ps(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm256_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm256_sqrt_pd(a.v)}; }
 
 // ---- shifts ------------------------------------------------------------------------
 template <int N, class T>

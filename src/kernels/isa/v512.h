@@ -190,6 +190,9 @@ inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm512_div_pd(a.v
 inline Vec<float> rcpApprox(Vec<float> a) {
     return combine(v256::rcpApprox(lowHalf(a)), v256::rcpApprox(highHalf(a)));
 }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm512_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm512_sqrt_pd(a.v)}; }
 
 // ---- shifts -----------------------------------------------------------------------------
 template <int N, class T>
