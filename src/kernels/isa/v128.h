@@ -573,6 +573,10 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
 }
 #endif
 
+// ---- resize family ---------------------------------------------------------------------------
+// x in the low 64-bit lane, zeros above (pixels gathered in a general register).
+inline Vec<std::uint64_t> fromLow64(std::uint64_t x) { return {_mm_cvtsi64_si128(static_cast<long long>(x))}; }
+
 }  // namespace v128
 QVN_TARGET_END
 
