@@ -83,13 +83,19 @@ inline Taps<W> linearAt(const Spec* s, const Axis& a, std::int64_t i) {
 
 inline unsigned char* bufferStart(Qvn8u* buffer) { return spec::alignUp64(buffer); }
 
+// The work buffer of a nearest tile: the byte offset of every column's pixel
+// from the source pointer, then (targets with a byte shuffle) the plan of
+// the block gather.
 template <class T, class L>
 inline void nearestTile(const Spec* s, const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep,
                         std::int64_t ox, std::int64_t oy, RoiL tile, Qvn8u* buffer) {
+    namespace kr = kernels::resize;
     constexpr int kB = int(sizeof(T)) * L::kElems;
     const std::int64_t sx = sourceOffset(s->cols, ox), sy = sourceOffset(s->rows, oy);
     auto* cols = reinterpret_cast<std::int32_t*>(bufferStart(buffer));
     for (std::int64_t j = 0; j < tile.width; ++j) cols[j] = std::int32_t((nearestAt(s, s->cols, ox + j) - sx) * kB);
+    auto* plan = reinterpret_cast<kr::GatherBlock*>(bufferStart(buffer) + 4 * up32(tile.width));
+    if constexpr (kr::kBlockGather<kB>) kr::planBlocks<kB>(cols, tile.width, (s->srcWidth - sx) * kB, plan);
     const auto* base = reinterpret_cast<const std::uint8_t*>(src);
     const std::int64_t bytes = tile.width * kB;
     std::int64_t previous = -1;
@@ -99,7 +105,8 @@ inline void nearestTile(const Spec* s, const T* src, std::int64_t srcStep, T* ds
         if (r == previous)  // the row above again
             std::memmove(d, d - dstStep, std::size_t(bytes));
         else
-            kernels::resize::gather<kB>(base + (r - sy) * srcStep, cols, d, tile.width);
+            if constexpr (kr::kBlockGather<kB>) kr::gatherBlocks<kB>(base + (r - sy) * srcStep, cols, plan, d, tile.width);
+            else kr::gather<kB>(base + (r - sy) * srcStep, cols, d, tile.width);
         previous = r;
     }
 }
@@ -107,35 +114,70 @@ inline void nearestTile(const Spec* s, const T* src, std::int64_t srcStep, T* ds
 // The work buffer of a linear tile (bufferPlan): the column table (first-tap
 // offsets, then weight pairs, padded to whole steps), the source row, the
 // ring of interpolated rows.
+//
+// Columns fall in three pieces of whole steps of the horizontal pass: the
+// middle one, whose taps (and what the pass reads past them) lie inside the
+// source, reads the source rows where they are; the left and right ones read
+// a copy of their source pixels with the borders made by the border fill.
+// Offsets of the middle columns count from the source row's first pixel,
+// the others' from the copy's first pixel (source column lo).
 template <class T, class L, class W>
 inline void linearTile(const Spec* s, const SourceImage<T, L>& source, T* dst, std::int64_t dstStep,
                        std::int64_t ox, std::int64_t oy, RoiL tile, Qvn8u* buffer) {
     namespace kr = kernels::resize;
     constexpr int K = L::kElems;
+    constexpr std::int64_t kStep = kr::kAcrossStep<K, W>;
+    constexpr int kWeights = kr::kColumnWeights<K, W>;
     // rows interpolated across: float, double for 64f, 16-bit in the fast mode
     using H = std::conditional_t<std::is_same_v<W, std::int16_t>, std::int16_t, W>;
     const BufferPlan plan = bufferPlan(s, tile, K, kDataType<T>);
     unsigned char* b = bufferStart(buffer);
-    const std::int64_t padded = up32(tile.width);
+    const std::int64_t tw = tile.width, padded = up32(tw);
     auto* first = reinterpret_cast<std::int32_t*>(b);
     auto* weights = reinterpret_cast<W*>(b + 4 * padded);
 
-    const std::int64_t lo = linearAt<W>(s, s->cols, ox).first;
-    const std::int64_t span = linearAt<W>(s, s->cols, ox + tile.width - 1).first + 2 - lo;
-    for (std::int64_t j = 0; j < padded; ++j) {
-        const Taps<W> t = j < tile.width ? linearAt<W>(s, s->cols, ox + j) : Taps<W>{lo, {W(0), W(0)}};
-        first[j] = std::int32_t((t.first - lo) * K);
-        weights[2 * j] = t.w[0], weights[2 * j + 1] = t.w[1];
+    // the first taps (in the offset table for now) and weights
+    const auto setWeights = [&](std::int64_t j, W w0, W w1) {
+        for (int k = 0; k < kWeights / 2; ++k) weights[kWeights * j + k] = w0, weights[kWeights * j + kWeights / 2 + k] = w1;
+    };
+    for (std::int64_t j = 0; j < tw; ++j) {
+        const Taps<W> t = linearAt<W>(s, s->cols, ox + j);
+        first[j] = std::int32_t(t.first);
+        setWeights(j, t.w[0], t.w[1]);
     }
-    T* row = reinterpret_cast<T*>(b + plan.sourceRow);
+    const std::int64_t lo = first[0], hi = first[tw - 1] + 2;
+    // the middle piece [a, m)
+    const auto inside = [&](std::int64_t j) { return first[j] >= 0 && first[j] + 2 + kr::kAcrossOverread<K> <= s->srcWidth; };
+    std::int64_t jl = 0, jr = tw;
+    while (jl < tw && !inside(jl)) ++jl;
+    while (jr > jl && !inside(jr - 1)) --jr;
+    const std::int64_t a = std::min(tw, (jl + kStep - 1) / kStep * kStep);
+    const std::int64_t m = a + std::max<std::int64_t>(0, jr - a) / kStep * kStep;
+    const std::int64_t leftEnd = a > 0 ? std::min<std::int64_t>(hi, first[a - 1] + 2) : lo;  // source columns the copy needs
+    const std::int64_t rightFrom = m < tw ? first[m] : hi;
+    for (std::int64_t j = 0; j < padded; ++j) {
+        if (j >= tw) first[j] = 0, setWeights(j, W(0), W(0));
+        else first[j] = std::int32_t((j >= a && j < m ? first[j] : first[j] - lo) * K);
+    }
+
+    T* copy = reinterpret_cast<T*>(b + plan.sourceRow);
     H* ring[2] = {reinterpret_cast<H*>(b + plan.ring), reinterpret_cast<H*>(b + plan.ring + plan.ringRowBytes)};
     std::int64_t held[2] = {INT64_MIN, INT64_MIN};
+    const auto pass = [&](const T* row, std::int64_t j0, std::int64_t j1, H* out) {
+        if (j0 >= j1) return;
+        if constexpr (std::is_same_v<W, std::int16_t>)
+            kr::acrossFast<K>(row, first + j0, weights + kWeights * j0, out + j0 * K, j1 - j0);
+        else
+            kr::acrossAccurate<T, K>(row, first + j0, weights + kWeights * j0, out + j0 * K, j1 - j0);
+    };
     const auto across = [&](std::int64_t r) {
         H* out = ring[r & 1];
         if (held[r & 1] == r) return out;
-        source.readRow(lo, r, span, row);
-        if constexpr (std::is_same_v<W, std::int16_t>) kr::acrossFast<K>(row, first, weights, out, tile.width);
-        else kr::acrossAccurate<T, K>(row, first, weights, out, tile.width);
+        if (a > 0) source.readRow(lo, r, leftEnd - lo, copy);
+        if (m < tw) source.readRow(rightFrom, r, hi - rightFrom, copy + (rightFrom - lo) * K);
+        pass(copy, 0, a, out);
+        pass(source.rowAt(r), a, m, out);
+        pass(copy, m, tw, out);
         held[r & 1] = r;
         return out;
     };

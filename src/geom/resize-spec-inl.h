@@ -320,16 +320,17 @@ inline std::int64_t sourceSpan(const Axis& a, std::int64_t w, int taps) {
 inline BufferPlan bufferPlan(const Spec* s, RoiL tile, int channels, int dataType) {
     const std::int64_t e = elementBytes(dataType);
     BufferPlan p{};
-    if (s->kind == qvnInterpNearest) {
+    if (s->kind == qvnInterpNearest) {  // offsets, and a block plan of 40 bytes per 16 bytes of pixels
         p.columns = 0;
-        p.total = alignBytes(4 * up32(tile.width), 64) + 64;
+        p.total = 4 * up32(tile.width) + 40 * (tile.width * channels * e / 16 + 1) + 64;
         return p;
     }
     const int taps = kindInfo(s->kind)->taps;
     // the arithmetic's element: float, double for 64f, 16-bit in the fast mode (8u only)
     const std::int64_t work = dataType == qvn64f ? 8 : 4;
     p.columns = 0;
-    p.sourceRow = alignBytes(up32(tile.width) * (4 + taps * work), 64) + 64;
+    // first-tap offsets and weights (float pixels of several elements: each weight four times)
+    p.sourceRow = alignBytes(up32(tile.width) * (4 + 4 * taps * work), 64) + 64;
     p.ring = p.sourceRow + alignBytes((sourceSpan(s->cols, tile.width, taps) + 4) * channels * e + 64, 64);
     // the vertical pass reads whole steps of up to 256 bytes
     p.ringRowBytes = alignBytes(tile.width * channels * work + 256, 64);

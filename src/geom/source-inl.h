@@ -30,8 +30,13 @@ struct SourceImage {
     void readRow(std::int64_t x0, std::int64_t y, std::int64_t n, T* out) const {
         border::fillWindow<T, L>(image, x0, y, n, 1, out, 0);
     }
-    // The first element of row y, which must lie in the image.
-    const T* row(std::int64_t y) const { return byteOffset(image.p, y * image.step); }
+    // The memory row that row y reads: y itself inside the image or on a side
+    // in memory, else the row the border gives (replicate and mirror kinds).
+    const T* rowAt(std::int64_t y) const {
+        const bool inMemory = (y < 0 && (image.inMemory & border::kInMemTop)) ||
+                              (y >= image.height && (image.inMemory & border::kInMemBottom));
+        return byteOffset(image.p, (inMemory ? y : border::sourceIndex(image.kind, y, image.height)) * image.step);
+    }
 };
 
 }  // namespace geom

@@ -18,6 +18,7 @@
 #ifndef QVN_KERNELS_RESIZE_INL_H
 #define QVN_KERNELS_RESIZE_INL_H
 
+#include <algorithm>
 #include <cstdint>
 #include <cstring>
 #include <type_traits>
@@ -35,21 +36,29 @@ inline std::uint64_t bytesAt(const T* p, int n) {
     return u;
 }
 
+// Columns that one step of the horizontal pass produces; a row may be
+// produced in pieces of whole steps (the last piece pads up to its step).
+template <int K, class W>
+inline constexpr std::int64_t kAcrossStep = std::is_same_v<W, std::int16_t> ? (K == 1 ? 8 : 2)
+                                            : K != 1                         ? 1
+                                            : std::is_same_v<W, double>      ? 2
+                                                                             : 4;
+// Weights a column has in the table: its pair, or (float pixels of 3 or 4
+// elements) each of the pair four times, a vector to multiply by.
+template <int K, class W>
+inline constexpr int kColumnWeights = std::is_same_v<W, float> && K != 1 ? 8 : 2;
+// Elements the horizontal pass may read past a column's second tap.
+template <int K>
+inline constexpr int kAcrossOverread = K == 3 ? 1 : 0;
+
 // ---- horizontal pass, accurate --------------------------------------------------
 
 // Four elements from p as float lanes.
 template <class T>
 inline v128::Vec<float> four(const T* p) {
     using namespace v128;
-    if constexpr (std::is_same_v<T, float>) {
-        return loadU(p);
-    } else if constexpr (sizeof(T) == 1) {
-        const Vec<std::uint8_t> b = cast<std::uint8_t>(fromLow32(std::uint32_t(bytesAt(p, 4))));
-        return toFloat(cast<std::int32_t>(widenLo<std::uint32_t>(widenLo<std::uint16_t>(b))));
-    } else {
-        using W = std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>;
-        return toFloat(cast<std::int32_t>(widenLo<W>(loadLow(p))));
-    }
+    if constexpr (std::is_same_v<T, float>) return loadU(p);
+    else return toFloat(load4x32(p));
 }
 
 // The two taps of four columns as float lanes: (a0, b0, a1, b1), (a2, b2, a3, b3).
@@ -77,7 +86,8 @@ inline void tapPairs(const T* row, const std::int32_t* o, v128::Vec<float>& lo, 
 }
 
 // Float (or double for 64f) interpolation across: out[x * K + c] =
-// row[o[x] + c] * w[2x] + row[o[x] + K + c] * w[2x + 1].
+// row[o[x] + c] * w0 + row[o[x] + K + c] * w1, column x's weights at
+// w + kColumnWeights * x.
 template <class T, int K, class W>
 inline void acrossAccurate(const T* row, const std::int32_t* o, const W* w, W* out, std::int64_t n) {
     using namespace v128;
@@ -108,7 +118,7 @@ inline void acrossAccurate(const T* row, const std::int32_t* o, const W* w, W* o
         // three-element pixels write a fourth lane that the next pixel overwrites
         for (std::int64_t x = 0; x < n; ++x) {
             const T* p = row + o[x];
-            storeU(out + K * x, add(mul(four(p), set1(w[2 * x])), mul(four(p + K), set1(w[2 * x + 1]))));
+            storeU(out + K * x, add(mul(four(p), loadU(w + 8 * x)), mul(four(p + K), loadU(w + 8 * x + 4))));
         }
     }
 }
@@ -221,6 +231,74 @@ inline void downFast(const std::int16_t* r0, const std::int16_t* r1, std::uint32
 template <int B>
 inline void gather(const std::uint8_t* row, const std::int32_t* o, std::uint8_t* out, std::int64_t n) {
     for (std::int64_t x = 0; x < n; ++x) std::memcpy(out + B * x, row + o[x], B);
+}
+
+// Pixels of 1, 2 or 4 bytes gathered 16 output bytes at a time: a block whose
+// pixels lie in the 16 or 32 bytes from its base is one or two byte-table
+// lookups on the targets with a byte shuffle; on every target a block of
+// every second pixel from its base (a reduction by 2) is the even pixels of
+// two loads. The plan of a row's blocks is made once per call (every row has
+// the same columns).
+template <int B>
+inline constexpr bool kBlockGather = B == 1 || B == 2 || B == 4;
+struct GatherBlock {
+    enum : std::int32_t { kPixels, kOneTable, kTwoTables, kEven };
+    std::int32_t base;  // byte offset of the source bytes the block reads
+    std::int32_t how;
+    std::uint8_t table[2][16];
+};
+
+// The plan of the blocks of n columns; loads may read source bytes up to hi
+// (from the row pointer); a block's base is one of its pixels.
+template <int B>
+inline void planBlocks(const std::int32_t* o, std::int64_t n, std::int64_t hi, GatherBlock* plan) {
+    constexpr std::int64_t kPer = 16 / B;
+    for (std::int64_t x = 0, k = 0; x + kPer <= n; x += kPer, ++k) {
+        GatherBlock& g = plan[k];
+        std::int32_t base = o[x], top = o[x];
+        bool even = true;
+        for (std::int64_t i = 1; i < kPer; ++i) {
+            base = std::min(base, o[x + i]), top = std::max(top, o[x + i]);
+            even = even && o[x + i] == o[x] + 2 * B * i;
+        }
+        const std::int64_t span = top + B - base;
+        g.base = base;
+        g.how = QVN_TARGET_LEVEL >= 2 && span <= 16 && base + 16 <= hi ? GatherBlock::kOneTable
+                : QVN_TARGET_LEVEL >= 2 && span <= 32 && base + 32 <= hi ? GatherBlock::kTwoTables
+                : even && base + 32 <= hi                                ? GatherBlock::kEven
+                                                                         : GatherBlock::kPixels;
+        for (int j = 0; j < 16; ++j) {
+            const int at = int(o[x + j / B] - base) + j % B;
+            g.table[0][j] = at < 16 ? std::uint8_t(at) : 0x80;
+            g.table[1][j] = at < 16 ? 0x80 : std::uint8_t(at - 16);
+        }
+    }
+}
+
+template <int B>
+inline void gatherBlocks(const std::uint8_t* row, const std::int32_t* o, const GatherBlock* plan, std::uint8_t* out,
+                         std::int64_t n) {
+    using namespace v128;
+    using U = std::conditional_t<B == 1, std::uint8_t, std::conditional_t<B == 2, std::uint16_t, std::uint32_t>>;
+    constexpr std::int64_t kPer = 16 / B;
+    std::int64_t x = 0;
+    for (const GatherBlock* g = plan; x + kPer <= n; x += kPer, ++g) {
+        const std::uint8_t* p = row + g->base;
+        switch (g->how) {
+            case GatherBlock::kEven:
+                storeU(out + B * x, cast<std::uint8_t>(unzipEven(loadU(reinterpret_cast<const U*>(p)),
+                                                                 loadU(reinterpret_cast<const U*>(p + 16)))));
+                break;
+#if QVN_TARGET_LEVEL >= 2
+            case GatherBlock::kOneTable: storeU(out + B * x, byteTable(loadU(p), g->table[0])); break;
+            case GatherBlock::kTwoTables:
+                storeU(out + B * x, bitOr(byteTable(loadU(p), g->table[0]), byteTable(loadU(p + 16), g->table[1])));
+                break;
+#endif
+            default: gather<B>(row, o + x, out + B * x, kPer);
+        }
+    }
+    gather<B>(row, o + x, out + B * x, n - x);
 }
 
 }  // namespace resize
