@@ -185,12 +185,11 @@ QVN_API QvnStatus qvniResizeSetMode(QvnAccuracyHint hint, QvnResizeSpec* pSpec);
  * of dstSize (qvnWarnNoOperation; nothing is written); a spec not built by
  * this interface's Init, or whose coefficients are not of this data type
  * (qvnErrBadSpec); a negative width or height of dstSize (qvnErrSize); a step
- * that is not a whole number of elements (qvnErrStep); a negative offset, or
+ * that is not a whole number of elements (qvnErrStep; steps of any sign are
+ * used as given, a negative one walks the rows upward); a negative offset, or
  * one not less than the destination size of the spec (qvnErrArgRange); a spec
  * with antialiasing (qvnErrBadMode); a spec of another interpolation kind
- * (qvnErrBadSpec). Steps are not checked: a negative step walks the rows
- * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
- * in qvnip_types.h). */
+ * (qvnErrBadSpec). */
 QVN_API QvnStatus qvniResizeNearest_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnPoint dstOffset, QvnRoiSize dstSize, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
 QVN_API QvnStatus qvniResizeNearest_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pDst, QvnSizeL dstStep, QvnPointL dstOffset, QvnRoiSizeL dstSize, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
 QVN_API QvnStatus qvniResizeNearest_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnPoint dstOffset, QvnRoiSize dstSize, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
@@ -230,12 +229,11 @@ QVN_API QvnStatus qvniResizeNearest_32f_C4R_L(const Qvn32f* pSrc, QvnSizeL srcSt
  * (qvnWarnNoOperation; nothing is written); a spec not built by this
  * interface's Init, or whose coefficients are not of this data type
  * (qvnErrBadSpec); a negative width or height of dstSize (qvnErrSize); a step
- * that is not a whole number of elements (qvnErrStep); a negative offset, or
+ * that is not a whole number of elements (qvnErrStep; steps of any sign are
+ * used as given, a negative one walks the rows upward); a negative offset, or
  * one not less than the destination size of the spec (qvnErrArgRange); a spec
  * with antialiasing (qvnErrBadMode); a spec of another interpolation kind
- * (qvnErrBadSpec). Steps are not checked: a negative step walks the rows
- * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
- * in qvnip_types.h). */
+ * (qvnErrBadSpec). */
 QVN_API QvnStatus qvniResizeLinear_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnPoint dstOffset, QvnRoiSize dstSize, QvnBorderKind border, const Qvn8u* pBorderValue, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
 QVN_API QvnStatus qvniResizeLinear_8u_C1R_L(const Qvn8u* pSrc, QvnSizeL srcStep, Qvn8u* pDst, QvnSizeL dstStep, QvnPointL dstOffset, QvnRoiSizeL dstSize, QvnBorderKind border, const Qvn8u* pBorderValue, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
 QVN_API QvnStatus qvniResizeLinear_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnPoint dstOffset, QvnRoiSize dstSize, QvnBorderKind border, const Qvn8u* pBorderValue, const QvnResizeSpec* pSpec, Qvn8u* pBuffer);
