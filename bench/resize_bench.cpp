@@ -84,23 +84,21 @@ std::pair<Peer, Factory> resizeCase(int ch, int kind, bool fast, int num, int de
         return name(s, ss, d, ds, {0, 0}, z, spec, buf);                                                      \
     }
 
+// One row: our function, its name's suffix, the source size, the kind (and
+// fast mode), the ratio num / den and OpenCV's interpolation.
+#define QB_RESIZE(fn, T, ch, suffix, w, h, kind, fast, num, den, cv, FN)                                      \
+    QB_REGISTER_AT(#fn "_" suffix, ({{w, h}}),                                                                \
+                   resizeCase<T>(ch, kind, fast, num, den, cv, FN(qvni##fn, T)));
+
 #ifdef QVN_HAS_qvniResizeLinear_8u_C3R
-QB_REGISTER_AT("ResizeLinear_8u_C3R_to1280x720", ({{1920, 1080}}),
-               resizeCase<Qvn8u>(3, qvnInterpLinear, false, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_8u_C3R, Qvn8u)));
-QB_REGISTER_AT("ResizeLinear_8u_C3R_fast_to1280x720", ({{1920, 1080}}),
-               resizeCase<Qvn8u>(3, qvnInterpLinear, true, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_8u_C3R, Qvn8u)));
-QB_REGISTER_AT("ResizeLinear_8u_C3R_to1920x1440", ({{640, 480}}),
-               resizeCase<Qvn8u>(3, qvnInterpLinear, false, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_8u_C3R, Qvn8u)));
-QB_REGISTER_AT("ResizeLinear_8u_C3R_fast_to1920x1440", ({{640, 480}}),
-               resizeCase<Qvn8u>(3, qvnInterpLinear, true, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_8u_C3R, Qvn8u)));
-QB_REGISTER_AT("ResizeLinear_32f_C1R_to1280x720", ({{1920, 1080}}),
-               resizeCase<Qvn32f>(1, qvnInterpLinear, false, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_32f_C1R, Qvn32f)));
-QB_REGISTER_AT("ResizeLinear_32f_C1R_to1920x1440", ({{640, 480}}),
-               resizeCase<Qvn32f>(1, qvnInterpLinear, false, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN(qvniResizeLinear_32f_C1R, Qvn32f)));
-QB_REGISTER_AT("ResizeNearest_8u_C1R_to960x540", ({{1920, 1080}}),
-               resizeCase<Qvn8u>(1, qvnInterpNearest, false, 1, 2, cv::INTER_NEAREST, QB_NEAREST_FN(qvniResizeNearest_8u_C1R, Qvn8u)));
-QB_REGISTER_AT("ResizeNearest_8u_C1R_to1920x1440", ({{640, 480}}),
-               resizeCase<Qvn8u>(1, qvnInterpNearest, false, 3, 1, cv::INTER_NEAREST, QB_NEAREST_FN(qvniResizeNearest_8u_C1R, Qvn8u)));
+QB_RESIZE(ResizeLinear_8u_C3R, Qvn8u, 3, "to1280x720", 1920, 1080, qvnInterpLinear, false, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeLinear_8u_C3R, Qvn8u, 3, "fast_to1280x720", 1920, 1080, qvnInterpLinear, true, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeLinear_8u_C3R, Qvn8u, 3, "to1920x1440", 640, 480, qvnInterpLinear, false, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeLinear_8u_C3R, Qvn8u, 3, "fast_to1920x1440", 640, 480, qvnInterpLinear, true, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeLinear_32f_C1R, Qvn32f, 1, "to1280x720", 1920, 1080, qvnInterpLinear, false, 2, 3, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeLinear_32f_C1R, Qvn32f, 1, "to1920x1440", 640, 480, qvnInterpLinear, false, 3, 1, cv::INTER_LINEAR, QB_RESIZE_FN)
+QB_RESIZE(ResizeNearest_8u_C1R, Qvn8u, 1, "to960x540", 1920, 1080, qvnInterpNearest, false, 1, 2, cv::INTER_NEAREST, QB_NEAREST_FN)
+QB_RESIZE(ResizeNearest_8u_C1R, Qvn8u, 1, "to1920x1440", 640, 480, qvnInterpNearest, false, 3, 1, cv::INTER_NEAREST, QB_NEAREST_FN)
 #endif
 
 }  // namespace
