@@ -144,19 +144,20 @@ void copyPixels(const Image<T>& from, Image<T>& to) {
 }
 
 // The first difference between two images of the same shape beyond a
-// relative tolerance, as "(x, y, channel) got G want W"; empty when they agree.
+// relative tolerance (floats) or an absolute one (abs, any type), as
+// "(x, y, channel) got G want W"; empty when they agree.
 template <class T>
-std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol) {
+std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol, double abs = 0) {
     for (int y = 0; y < got.height(); ++y) {
         const T* g = got.row(y);
         const T* w = want.row(y);
         for (std::size_t i = 0; i < got.rowElems(); ++i) {
-            bool same;
+            bool same = std::fabs(double(g[i]) - double(w[i])) <= abs;
             if constexpr (std::is_floating_point_v<T>) {
-                same = (std::isnan(g[i]) && std::isnan(w[i])) || g[i] == w[i] ||
+                same = same || (std::isnan(g[i]) && std::isnan(w[i])) || g[i] == w[i] ||
                        std::fabs(double(g[i]) - double(w[i])) <= tol * std::fabs(double(w[i]));
             } else {
-                same = g[i] == w[i];
+                same = same || g[i] == w[i];
             }
             if (!same) {
                 std::ostringstream s;
@@ -178,7 +179,7 @@ struct Case {
     double bytes = 0;       // read plus written by one call; 0: not memory bound
     bool inPlace = false;   // bounded by the read-modify-write stream, not the copy
     bool readOnly = false;  // a reduction: bounded by the read stream
-    double pixels = 0;
+    double pixels = 0;      // times are per this many pixels: the source's, or (resize) the destination's
 };
 
 using Factory = std::function<std::unique_ptr<Case>(Size)>;
@@ -187,12 +188,17 @@ struct OpDef {
     std::string name;
     Peer peer = Peer::None;
     Factory make;
+    std::vector<Size> sizes;  // the source sizes it runs at; kSizes when empty
 };
 
 std::vector<OpDef>& registry();
-inline bool registerOp(std::string name, std::pair<Peer, Factory> def) {
-    registry().push_back({std::move(name), def.first, std::move(def.second)});
+inline bool registerOp(std::string name, std::pair<Peer, Factory> def, std::vector<Size> sizes = {}) {
+    registry().push_back({std::move(name), def.first, std::move(def.second), std::move(sizes)});
     return true;
+}
+// The source sizes of an operation.
+inline std::vector<Size> sizesOf(const OpDef& op) {
+    return op.sizes.empty() ? std::vector<Size>(std::begin(kSizes), std::end(kSizes)) : op.sizes;
 }
 
 #define QB_CAT2(a, b) a##b
@@ -200,6 +206,10 @@ inline bool registerOp(std::string name, std::pair<Peer, Factory> def) {
 // Registers an operation: QB_REGISTER("Copy_8u_C1R", unary<Qvn8u, Qvn8u>(...));
 #define QB_REGISTER(name, ...) \
     static const bool QB_CAT(qbRegistered_, __LINE__) = ::qbench::registerOp(name, __VA_ARGS__)
+// An operation timed at its own source sizes (a brace list of Size) instead
+// of kSizes: QB_REGISTER_AT("ResizeLinear_8u_C3R_to1280x720", ({{1920, 1080}}), ...);
+#define QB_REGISTER_AT(name, sizes, ...) \
+    static const bool QB_CAT(qbRegistered_, __LINE__) = ::qbench::registerOp(name, __VA_ARGS__, std::vector<::qbench::Size> sizes)
 
 // The second implementation of a case: a peer library that defines the same
 // result, or a reference written here (checked against, never timed).

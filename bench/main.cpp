@@ -107,24 +107,33 @@ public:
             entry_ = {};
             key_ = key;
             // Progress on a terminal only, on one line; logs stay clean.
+            const Size z = sizesOf(registry()[op])[size];
             if (isatty(2))
-                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(kSizes[size])).c_str());
-            entry_.c = registry()[op].make(kSizes[size]);
+                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(z)).c_str());
+            entry_.c = registry()[op].make(z);
             entry_.error = checkEveryTarget(*entry_.c);
-            facts_[key] = {entry_.c->bytes, entry_.c->inPlace ? Stream::kRmw : entry_.c->readOnly ? Stream::kRead : Stream::kCopy};
+            facts_[key] = {entry_.c->bytes,
+                           entry_.c->inPlace ? Stream::kRmw : entry_.c->readOnly ? Stream::kRead : Stream::kCopy,
+                           entry_.c->pixels};
         }
         return entry_;
     }
-    // Bytes per call and the bandwidth stream that bounds the case, of every case built so far.
-    std::pair<double, int> facts(std::size_t op, std::size_t size) const {
+    // Bytes per call, the bandwidth stream that bounds the case and the
+    // pixels its times are per, of every case built so far.
+    struct Facts {
+        double bytes = 0;
+        int stream = 0;
+        double pixels = 0;
+    };
+    Facts facts(std::size_t op, std::size_t size) const {
         auto it = facts_.find({op, size});
-        return it == facts_.end() ? std::make_pair(0.0, 0) : it->second;
+        return it == facts_.end() ? Facts{} : it->second;
     }
 
 private:
     std::pair<std::size_t, std::size_t> key_{~std::size_t(0), 0};
     Entry entry_;
-    std::map<std::pair<std::size_t, std::size_t>, std::pair<double, int>> facts_;
+    std::map<std::pair<std::size_t, std::size_t>, Facts> facts_;
 };
 
 CaseCache& cache() {
@@ -309,12 +318,13 @@ int main(int argc, char** argv) {
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
         ++selected;
-        for (std::size_t z = 0; z < std::size(kSizes); ++z) {
+        const std::vector<Size> sizes = sizesOf(ops[o]);
+        for (std::size_t z = 0; z < sizes.size(); ++z) {
             for (int tg : targets().timed)
-                add(benchName(ops[o], kSizes[z], tg), s,
+                add(benchName(ops[o], sizes[z], tg), s,
                     [o, z, tg](benchmark::State& t) { runCase(t, o, z, tg); });
             if (ops[o].peer != Peer::None)
-                add(benchName(ops[o], kSizes[z], kPeerSide), s,
+                add(benchName(ops[o], sizes[z], kPeerSide), s,
                     [o, z](benchmark::State& t) { runCase(t, o, z, kPeerSide); });
         }
     }
@@ -350,14 +360,16 @@ int main(int argc, char** argv) {
     bool failed = false;
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
-        for (std::size_t zi = 0; zi < std::size(kSizes); ++zi) {
-            const Size z = kSizes[zi];
+        const std::vector<Size> sizes = sizesOf(ops[o]);
+        for (std::size_t zi = 0; zi < sizes.size(); ++zi) {
+            const Size z = sizes[zi];
             Row row;
             row.op = ops[o].name;
             row.size = sizeName(z);
             const std::string ours = benchName(ops[o], z, targets().ours);
             row.error = collector.error(ours);
-            const double pixels = double(z.w) * z.h;
+            const CaseCache::Facts facts = cache().facts(o, zi);
+            const double pixels = facts.pixels > 0 ? facts.pixels : double(z.w) * z.h;
             row.ours = collector.seconds(ours) * 1e9 / pixels;
             if (targets().timed.size() > 1)
                 for (int tg : targets().timed)
@@ -366,10 +378,9 @@ int main(int argc, char** argv) {
                 const double t = collector.seconds(benchName(ops[o], z, kPeerSide)) * 1e9 / pixels;
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
-            const auto [bytes, stream] = cache().facts(o, zi);
             const BandwidthRow& b = bw[sizeName(z)];
-            const double gbs = stream == Stream::kRmw ? b.rmw : stream == Stream::kRead ? b.read : b.copy;
-            if (bytes > 0) row.bound = bytes / (gbs * kGB) * 1e9 / pixels;
+            const double gbs = facts.stream == Stream::kRmw ? b.rmw : facts.stream == Stream::kRead ? b.read : b.copy;
+            if (facts.bytes > 0 && gbs > 0) row.bound = facts.bytes / (gbs * kGB) * 1e9 / pixels;
             failed |= !row.error.empty();
             r.rows.push_back(row);
         }

@@ -32,6 +32,9 @@
 #if defined(QVN_HAS_qvniMean_8u_C3R) && defined(QVN_HAS_qvniMinIndx_8u_C3R) && defined(QVN_HAS_qvniMaxIndx_8u_C3R)
 #define SHOW_STATS 1
 #endif
+#if defined(QVN_HAS_qvniResizeLinear_8u_C3R) && defined(QVN_HAS_qvniResizeNearest_8u_C3R)
+#define SHOW_RESIZE 1
+#endif
 
 enum { W = 512, H = 384, MAX_PICTURES = 32 };
 
@@ -417,6 +420,47 @@ int main(int argc, char** argv) {
                      lx[2], ly[2], hi[2], hx[2], hy[2], mean[0], mean[1], mean[2]);
             writeImage("stats_extremes.png", caption, work, step, W, H, 3);
         }
+#endif
+#ifdef SHOW_RESIZE
+    /* Resizing: a piece of the test image's rings enlarged four times, by
+     * nearest neighbour and by linear interpolation. Size query, spec, work
+     * buffer, then the call; the source pointer addresses the piece (a ROI). */
+    {
+        const QvnRoiSize from = {96, 72}, to = {384, 288};
+        const Qvn8u* piece = img + (size_t)16 * step + 3 * 16;  /* near a corner: fine rings */
+        int specSize = 0, initSize = 0, bufSize = 0, rstep = 0, kind;
+        Qvn8u* out = qvniMalloc_8u_C3(to.width, to.height, &rstep);
+        for (kind = qvnInterpNearest; kind <= qvnInterpLinear && out != NULL; ++kind) {
+            const QvnPoint origin = {0, 0};
+            QvnResizeSpec* spec;
+            Qvn8u* buf;
+            if (!ok("qvniResizeGetSize_8u", qvniResizeGetSize_8u(from, to, kind, 0, &specSize, &initSize))) break;
+            spec = (QvnResizeSpec*)malloc((size_t)specSize);
+            if (spec != NULL &&
+                ok("qvniResizeInit", kind == qvnInterpNearest ? qvniResizeNearestInit_8u(from, to, spec)
+                                                              : qvniResizeLinearInit_8u(from, to, spec)) &&
+                ok("qvniResizeGetBufferSize_8u", qvniResizeGetBufferSize_8u(spec, to, 3, &bufSize)) &&
+                (buf = (Qvn8u*)malloc((size_t)bufSize)) != NULL) {
+                if (kind == qvnInterpNearest &&
+                    ok("qvniResizeNearest_8u_C3R",
+                       qvniResizeNearest_8u_C3R(piece, step, out, rstep, origin, to, spec, buf)))
+                    writeImage("resize_nearest.png",
+                               "A 96 &times; 72 piece of the fine rings near the top left corner enlarged four times by "
+                               "<code>qvniResizeNearest_8u_C3R</code>: every source pixel becomes a 4 &times; 4 "
+                               "block.",
+                               out, rstep, to.width, to.height, 3);
+                if (kind == qvnInterpLinear &&
+                    ok("qvniResizeLinear_8u_C3R", qvniResizeLinear_8u_C3R(piece, step, out, rstep, origin, to,
+                                                                          qvnBorderReplicate, NULL, spec, buf)))
+                    writeImage("resize_linear.png",
+                               "The same piece enlarged four times by <code>qvniResizeLinear_8u_C3R</code>: "
+                               "each pixel interpolated between the four source pixels around its centre.",
+                               out, rstep, to.width, to.height, 3);
+                free(buf);
+            }
+            free(spec);
+        }
+        qvniFree(out);
     }
 #endif
 

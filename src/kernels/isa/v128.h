@@ -602,6 +602,36 @@ inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
     return {_mm_andnot_ps(_mm_andnot_ps(x.v, _mm_cmpeq_ps(x.v, acc.v)), _mm_max_ps(x.v, acc.v))};
 }
 
+// ---- resize family ---------------------------------------------------------------------------
+// x in the low 64-bit lane, zeros above (pixels gathered in a general register).
+inline Vec<std::uint64_t> fromLow64(std::uint64_t x) { return {_mm_cvtsi64_si128(static_cast<long long>(x))}; }
+// The four 8- or 16-bit elements at p (any alignment) zero- or sign-extended
+// to 32-bit lanes: one instruction where SSE4.1 is there, unpacks otherwise.
+template <class T>
+inline Vec<std::int32_t> load4x32(const T* p) {
+    static_assert(sizeof(T) <= 2, "8- or 16-bit elements");
+    __m128i x;
+    if constexpr (sizeof(T) == 1) {
+        std::int32_t u;
+        std::memcpy(&u, p, 4);
+        x = _mm_cvtsi32_si128(u);
+    } else {
+        x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+    }
+#if QVN_TARGET_LEVEL >= 2
+    if constexpr (sizeof(T) == 1) return {std::is_signed_v<T> ? _mm_cvtepi8_epi32(x) : _mm_cvtepu8_epi32(x)};
+    else return {std::is_signed_v<T> ? _mm_cvtepi16_epi32(x) : _mm_cvtepu16_epi32(x)};
+#else
+    if constexpr (sizeof(T) == 1) {
+        static_assert(!std::is_signed_v<T>, "8u");
+        x = _mm_unpacklo_epi16(_mm_unpacklo_epi8(x, _mm_setzero_si128()), _mm_setzero_si128());
+    } else {
+        x = std::is_signed_v<T> ? _mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16) : _mm_unpacklo_epi16(x, _mm_setzero_si128());
+    }
+    return {x};
+#endif
+}
+
 }  // namespace v128
 QVN_TARGET_END
 
