@@ -5,6 +5,7 @@
 #include "qvnip_types.h"
 #include "qvnip_arith.h"
 #include "qvnip_core.h"
+#include "qvnip_filter.h"
 #include "qvnip_move.h"
 
 #endif /* QVNIP_H */

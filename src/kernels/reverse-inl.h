@@ -24,8 +24,9 @@ namespace kernels {
 // The unsigned type of T's size: rows that only move elements move their
 // bits, whatever they mean.
 template <class T>
-using Bits = std::conditional_t<sizeof(T) == 1, std::uint8_t,
-                                std::conditional_t<sizeof(T) == 2, std::uint16_t, std::uint32_t>>;
+using Bits = std::conditional_t<
+    sizeof(T) == 1, std::uint8_t,
+    std::conditional_t<sizeof(T) == 2, std::uint16_t, std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>>>;
 
 // Three-element pixels of P bytes (3 or 6) reversed in blocks of 48 bytes
 // (three 16-byte vectors, 48 / P pixels) on the targets with a byte shuffle:

@@ -299,7 +299,7 @@ template <class T, class L>
 inline void fillWindow(const Source<T>& s, std::int64_t x0, std::int64_t y0, std::int64_t w, std::int64_t h, T* dst,
                        std::int64_t dstStep) {
     using U = kernels::Bits<T>;
-    static_assert(sizeof(T) == sizeof(U), "element types of 1, 2 or 4 bytes");
+    static_assert(sizeof(T) == sizeof(U), "element types of 1, 2, 4 or 8 bytes");
     const Source<U> u{reinterpret_cast<const U*>(s.p), s.step, s.width, s.height,
                       s.kind, s.inMemory, reinterpret_cast<const U*>(s.value)};
     detail::Runs<U, L::kElems, L::kAlpha>::window(u, x0, y0, w, h, reinterpret_cast<U*>(dst), dstStep);
