@@ -43,7 +43,7 @@ inline QvnStatus filter64f(const Qvn64f* pSrc, std::int64_t srcStep, Qvn64f* pDs
     const Qvn64f* window =
         byteOffset(pSrc, -(std::int64_t(kh) - 1 - anchor.y) * srcStep) - (std::int64_t(kw) - 1 - anchor.x);
     const RoundingScope nearest(qvnRndNear);
-    kc::Float2D<double, double, double>{pKernel + (std::int64_t(kw) * kh - 1), kw, kh, 1, {}}(
+    kc::Float2D<double, double, double>{{}, pKernel + (std::int64_t(kw) * kh - 1), kw, kh, 1, {}}(
         window, srcStep, pDst, dstStep, roi.width, roi.height);
     return qvnOk;
 }
@@ -170,12 +170,12 @@ inline QvnStatus conv(const T* pSrc1, std::int64_t src1Step, RoiL src1Size, cons
                     const float v = coef(j, i);
                     kc::makeBlocks(&v, 1, b + 4 * (j * kw + i));
                 }
-            kc::Float2D<float, T, T>{b, int(kw), int(kh), 1, {}}(window, pw * E, out, outStep, plan.out.width,
+            kc::Float2D<float, T, T>{{}, b, int(kw), int(kh), 1, {}}(window, pw * E, out, outStep, plan.out.width,
                                                                  plan.out.height);
         } else {
             std::int32_t* pairs = reinterpret_cast<std::int32_t*>(blocks);
             kc::makePairs(coef, int(kw), int(kh), pairs);
-            kc::Int2D<T, T>{pairs, int(kw), int(kh), 1, convFinish(divisor)}(window, pw * E, out, outStep,
+            kc::Int2D<T, T>{{}, pairs, int(kw), int(kh), 1, convFinish(divisor)}(window, pw * E, out, outStep,
                                                                              plan.out.width, plan.out.height);
         }
         if (C > 1)

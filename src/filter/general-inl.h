@@ -435,16 +435,16 @@ inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* 
     };
     if constexpr (std::is_same_v<T, Qvn64f>) {
         const double* last = block<const double>(&s, l.kernel) + (std::int64_t(s.kw) * s.kh - 1);
-        run(kf::Float2D<double, T, T>{last, s.kw, s.kh, C, {}});
+        run(kf::Float2D<double, T, T>{{}, last, s.kw, s.kh, C, {}});
     } else {
         if constexpr (std::is_same_v<T, Qvn8u> || std::is_same_v<T, Qvn16s>) {
             if (isIntegerId(s.id)) {
-                const kf::Int2D<T, T> k2{block<const std::int32_t>(&s, l.converted), s.kw, s.kh, C, finishOf(s)};
+                const kf::Int2D<T, T> k2{{}, block<const std::int32_t>(&s, l.converted), s.kw, s.kh, C, finishOf(s)};
                 if constexpr (std::is_same_v<T, Qvn8u>) {
                     if (s.separable && kf::Int8uSeparable::fits(s.kw, C)) {
                         kf::IntFinish f = finishOf(s);
                         f.pre = kf::IntFinish::wrap(std::int64_t(f.pre) + s.sepCorrection);
-                        const kf::Int2D<Qvn16s, Qvn8u> rows{block<const std::int32_t>(&s, l.rowFactors), s.kw, 1, C, f};
+                        const kf::Int2D<Qvn16s, Qvn8u> rows{{}, block<const std::int32_t>(&s, l.rowFactors), s.kw, 1, C, f};
                         return run(kf::Int8uSeparable{rows, block<const std::int32_t>(&s, l.colFactors), s.kh, s.sepBias});
                     }
                 }
@@ -455,7 +455,7 @@ inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* 
         using Sep = kf::FloatSeparable<float, T, T>;
         if (s.separable && Sep::fits(s.kw, C))
             return run(Sep{block<const float>(&s, l.rowFactors), block<const float>(&s, l.colFactors), s.kw, s.kh, C, fin});
-        run(kf::Float2D<float, T, T>{block<const float>(&s, l.converted), s.kw, s.kh, C, fin});
+        run(kf::Float2D<float, T, T>{{}, block<const float>(&s, l.converted), s.kw, s.kh, C, fin});
     }
 }
 

@@ -38,6 +38,12 @@
 #include "core/image.h"
 #include "kernels/isa/isa.h"
 
+// The accumulators of a block must stay in registers: every function that
+// takes them melts into the block's loop.
+#ifndef QVN_ALWAYS_INLINE
+#define QVN_ALWAYS_INLINE inline __attribute__((always_inline))
+#endif
+
 QVN_TARGET_BEGIN
 namespace kernels {
 namespace filt {
@@ -71,7 +77,7 @@ inline int32_t roundScalar(float x, int mode) {
     return t;
 }
 
-inline V<int32_t> roundVector(V<float> x, int mode) {
+QVN_ALWAYS_INLINE V<int32_t> roundVector(V<float> x, int mode) {
     x = isa::min(isa::max(x, isa::set1(-kClamp)), isa::set1(kClamp));
     if (mode == qvnRndNear) return isa::toInt(x);
     V<int32_t> t = isa::toIntTrunc(x);
@@ -153,7 +159,7 @@ struct IntFinish {
         return static_cast<int32_t>(q < INT32_MIN ? INT32_MIN : q > INT32_MAX ? INT32_MAX : q);
     }
 
-    V<int32_t> vector(V<int32_t> acc) const {
+    QVN_ALWAYS_INLINE V<int32_t> vector(V<int32_t> acc) const {
         const V<int32_t> v = isa::add(acc, isa::set1(pre));
         switch (kind) {
             case kShift: {
@@ -210,7 +216,7 @@ inline void makePairs(const At& k, int kw, int kh, int32_t* out) {
 // ---- storing blocks -----------------------------------------------------------------------------
 // NV float (or double) vectors of results to NV * lanes elements of D.
 template <class D, int NV, class W>
-inline void storeResults(D* p, V<W>* acc, const FloatFinish<W>& fin) {
+QVN_ALWAYS_INLINE void storeResults(D* p, const V<W>* acc, const FloatFinish<W>& fin) {
     constexpr int64_t L = int64_t(isa::kLanes<W>);
     if constexpr (std::is_same_v<D, W>) {
         for (int k = 0; k < NV; ++k) isa::storeU(p + k * L, acc[k]);  // float images take no offset
@@ -240,10 +246,22 @@ inline D finishScalar(W sum, const FloatFinish<W>& fin) {
 // Vectors of results per block: a whole destination vector of 8-bit
 // elements, pairs otherwise.
 template <class D>
-inline constexpr int kFloatVectors = sizeof(D) == 1 ? 4 : 2;
+inline constexpr int kFloatVectors = sizeof(D) == 1 || isa::kVectorBytes == 64 ? 4 : 2;
 // Output rows per pass: as many as the registers hold next to the block.
 inline constexpr int rowsPerPass(int accumulatorsPerRow) {
     return isa::kVectorBytes == 64 ? 4 : accumulatorsPerRow >= 4 ? 2 : 4;
+}
+
+// Asks for the source rows that the next pass of rows adds, [first, first +
+// count) clamped to the window's last row, at the bytes of a block: the
+// passes walk several rows at once, more streams than the processor follows.
+template <class S>
+QVN_ALWAYS_INLINE void prefetchRows(const S* src, int64_t sstep, int64_t first, int count, int64_t last, int64_t e,
+                                    int64_t bytes) {
+    for (int r = 0; r < count; ++r) {
+        const char* p = reinterpret_cast<const char*>(rowAt(src, sstep, first + r < last ? first + r : last) + e);
+        for (int64_t b = 0; b < bytes; b += 64) isa::prefetch(p + b);
+    }
 }
 
 // Calls block(e) for the blocks of B elements that cover [0, n) (the last one
@@ -259,10 +277,70 @@ inline void forBlocks(int64_t n, int64_t B, const Block& block, const Scalar& sc
     if (e < n) block(n - B);
 }
 
+// Calls body.template taps<Lo, Hi>() for the output rows [lo, hi] of a pass
+// of RR rows that one source row feeds, with Lo and Hi as constants (each
+// range its own loop, without a test per row and tap).
+template <int RR, class Body>
+QVN_ALWAYS_INLINE void forRowRange(int lo, int hi, Body& body) {
+#define QVN_FILTER_RANGE(L, H) \
+    case L * 4 + H:            \
+        if constexpr (H < RR) body.template taps<L, H>(); \
+        break;
+    static_assert(RR <= 4, "up to four rows per pass");
+    switch (lo * 4 + hi) {
+        QVN_FILTER_RANGE(0, 0) QVN_FILTER_RANGE(0, 1) QVN_FILTER_RANGE(0, 2) QVN_FILTER_RANGE(0, 3)
+        QVN_FILTER_RANGE(1, 1) QVN_FILTER_RANGE(1, 2) QVN_FILTER_RANGE(1, 3)
+        QVN_FILTER_RANGE(2, 2) QVN_FILTER_RANGE(2, 3) QVN_FILTER_RANGE(3, 3)
+        default: break;
+    }
+#undef QVN_FILTER_RANGE
+}
+
+// The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
+// of K::R output rows, then single rows; blocks of K::kBlock elements along
+// them, the last overlapping, or element by element (K::scalar) in rows
+// narrower than a block. A pass walks each source row of its window once
+// (K::Pass, its taps for the pass's rows that the row feeds) and asks for the
+// next pass's new rows ahead.
+template <class K, class S, class D>
+struct RowPasses {
+    const K& self() const { return static_cast<const K&>(*this); }
+    int64_t blockElems() const { return K::kBlock; }
+
+    void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
+        int64_t y = 0;
+        for (; y + K::R <= h; y += K::R) rows<K::R>(src, sstep, dst, dstep, w, y, h);
+        for (; y < h; ++y) rows<1>(src, sstep, dst, dstep, w, y, h);
+    }
+
+    template <int RR>
+    void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y, int64_t h) const {
+        const int kh = self().kh;
+        const int64_t ahead = y + kh + RR - 1, last = h + kh - 2;
+        forBlocks(w, K::kBlock, [&](int64_t e) {
+            prefetchRows(src, sstep, ahead, RR, last, e, K::kBlock * int64_t(sizeof(S)));
+            block<RR>(src, sstep, dst, dstep, y, e);
+        }, [&](int64_t e) {
+            for (int r = 0; r < RR; ++r) byteOffset(dst, (y + r) * dstep)[e] = self().scalar(src, sstep, y + r, e);
+        });
+    }
+
+    template <int RR>
+    void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
+        typename K::template Pass<RR> pass = self().template start<RR>();
+        const int rows = self().kh + RR - 1, kh = self().kh;
+        for (int s = 0; s < rows; ++s) {
+            pass.p = rowAt(src, sstep, y + s) + e, pass.s = s;
+            forRowRange<RR>(s - kh + 1 > 0 ? s - kh + 1 : 0, s < RR - 1 ? s : RR - 1, pass);
+        }
+        for (int r = 0; r < RR; ++r) self().store(pass.acc[r], byteOffset(dst, (y + r) * dstep) + e);
+    }
+};
+
 // ---- 2D float sums ----------------------------------------------------------------------------------
 // S source, D destination and W working type (float, or double for 64f).
 template <class W, class S, class D>
-struct Float2D {
+struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
     static constexpr int NV = kFloatVectors<D>;
     static constexpr int R = rowsPerPass(NV);
     static constexpr int64_t L = int64_t(isa::kLanes<W>);
@@ -273,52 +351,46 @@ struct Float2D {
     int64_t stride;
     FloatFinish<W> fin;
 
-    int64_t blockElems() const { return kBlock; }
-
-    void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
-        int64_t y = 0;
-        for (; y + R <= h; y += R) rows<R>(src, sstep, dst, dstep, w, y);
-        for (; y < h; ++y) rows<1>(src, sstep, dst, dstep, w, y);
-    }
-
-    template <int RR>
-    void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y) const {
-        forBlocks(w, kBlock, [&](int64_t e) { block<RR>(src, sstep, dst, dstep, y, e); },
-                  [&](int64_t e) {
-                      for (int r = 0; r < RR; ++r)
-                          byteOffset(dst, (y + r) * dstep)[e] = finishScalar<D>(sum(src, sstep, y + r, e), fin);
-                  });
-    }
-
-    W sum(const S* src, int64_t sstep, int64_t y, int64_t e) const {
+    D scalar(const S* src, int64_t sstep, int64_t y, int64_t e) const {
         W acc = 0;
         for (int j = 0; j < kh; ++j) {
             const S* p = rowAt(src, sstep, y + j) + e;
             for (int i = 0; i < kw; ++i) acc = acc + static_cast<W>(p[i * stride]) * coefScalar(coef, j * kw + i);
         }
-        return acc;
+        return finishScalar<D>(acc, fin);
     }
 
+    // One source row's taps for the output rows [Lo, Hi] of a pass.
     template <int RR>
-    void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
+    struct Pass {
         V<W> acc[RR][NV];
-        for (int r = 0; r < RR; ++r)
-            for (int k = 0; k < NV; ++k) acc[r][k] = isa::zero<W>();
-        for (int s = 0; s < kh + RR - 1; ++s) {
-            const S* p = rowAt(src, sstep, y + s) + e;
+        const S* p;  // the source row at the block
+        const W* coef;
+        int s, kw;
+        int64_t stride;
+
+        template <int Lo, int Hi>
+        QVN_ALWAYS_INLINE void taps() {
             for (int i = 0; i < kw; ++i) {
                 V<W> v[NV];
                 for (int k = 0; k < NV; ++k) v[k] = isa::loadExpand<W>(p + i * stride + k * L);
-                for (int r = 0; r < RR; ++r) {
-                    const int j = s - r;
-                    if (unsigned(j) >= unsigned(kh)) continue;
-                    const V<W> c = coefVec(coef, j * kw + i);
+                for (int r = Lo; r <= Hi; ++r) {
+                    const V<W> c = coefVec(coef, (s - r) * kw + i);
                     for (int k = 0; k < NV; ++k) acc[r][k] = isa::add(acc[r][k], isa::mul(v[k], c));
                 }
             }
         }
-        for (int r = 0; r < RR; ++r) storeResults<D, NV>(byteOffset(dst, (y + r) * dstep) + e, acc[r], fin);
+    };
+
+    template <int RR>
+    QVN_ALWAYS_INLINE Pass<RR> start() const {
+        Pass<RR> pass;
+        pass.coef = coef, pass.kw = kw, pass.stride = stride;
+        for (int r = 0; r < RR; ++r)
+            for (int k = 0; k < NV; ++k) pass.acc[r][k] = isa::zero<W>();
+        return pass;
     }
+    QVN_ALWAYS_INLINE void store(const V<W>* acc, D* out) const { storeResults<D, NV>(out, acc, fin); }
 };
 
 // ---- separable float sums ------------------------------------------------------------------------
@@ -349,7 +421,9 @@ struct FloatSeparable {
             for (int64_t e0 = 0; e0 < w; e0 += kChunk) {
                 const int64_t start = w - e0 < kChunk && w > kChunk ? w - kChunk : e0;  // whole chunks only
                 const int64_t m = w - start < kChunk ? w - start : kChunk;
-                columns(src, sstep, y, start, m + extra, t);
+                // the next output row's new source row (in the window), fetched ahead
+                const S* next = rowAt(src, sstep, y + 1 < h ? y + kh : y + kh - 1) + start;
+                columns(src, sstep, y, start, m + extra, t, next);
                 forBlocks(m, kBlock, [&](int64_t e) { rowBlock(t + e, out + start + e); },
                           [&](int64_t e) { out[start + e] = finishScalar<D>(rowSum(t + e), fin); });
             }
@@ -357,8 +431,9 @@ struct FloatSeparable {
     }
 
     // t[x] = column sum at window element e0 + x, for x in [0, n).
-    void columns(const S* src, int64_t sstep, int64_t y, int64_t e0, int64_t n, W* t) const {
+    void columns(const S* src, int64_t sstep, int64_t y, int64_t e0, int64_t n, W* t, const S* next) const {
         const auto one = [&](int64_t x) {
+            isa::prefetch(next + x);
             V<W> acc = isa::zero<W>();
             for (int j = 0; j < kh; ++j)
                 acc = isa::add(acc, isa::mul(isa::loadExpand<W>(rowAt(src, sstep, y + j) + e0 + x), coefVec(colCoef, j)));
@@ -401,7 +476,7 @@ inline V<int16_t> loadPixels(const S* p) {
 }
 
 template <class D>
-inline void storeNarrowed(D* p, const V<int32_t>* acc) {
+QVN_ALWAYS_INLINE void storeNarrowed(D* p, const V<int32_t>* acc) {
     constexpr int64_t L16 = int64_t(isa::kLanes<int16_t>);
     const V<int16_t> a = isa::packSatBlocks(acc[0], acc[1]), b = isa::packSatBlocks(acc[2], acc[3]);
     if constexpr (sizeof(D) == 1) {
@@ -413,7 +488,7 @@ inline void storeNarrowed(D* p, const V<int32_t>* acc) {
 }
 
 template <class S, class D>
-struct Int2D {
+struct Int2D : RowPasses<Int2D<S, D>, S, D> {
     static constexpr int64_t L16 = int64_t(isa::kLanes<int16_t>);
     static constexpr int64_t kBlock = 2 * L16;  // two 16-bit vectors: four 32-bit sums
     static constexpr int R = rowsPerPass(4);
@@ -423,24 +498,7 @@ struct Int2D {
     int64_t stride;
     IntFinish fin;
 
-    int64_t blockElems() const { return kBlock; }
-
-    void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
-        int64_t y = 0;
-        for (; y + R <= h; y += R) rows<R>(src, sstep, dst, dstep, w, y);
-        for (; y < h; ++y) rows<1>(src, sstep, dst, dstep, w, y);
-    }
-
-    template <int RR>
-    void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y) const {
-        forBlocks(w, kBlock, [&](int64_t e) { block<RR>(src, sstep, dst, dstep, y, e); },
-                  [&](int64_t e) {
-                      for (int r = 0; r < RR; ++r)
-                          byteOffset(dst, (y + r) * dstep)[e] = saturate<D>(fin.scalar(sum(src, sstep, y + r, e)));
-                  });
-    }
-
-    int32_t sum(const S* src, int64_t sstep, int64_t y, int64_t e) const {
+    D scalar(const S* src, int64_t sstep, int64_t y, int64_t e) const {
         const int np = (kw + 1) / 2;
         uint32_t acc = 0;
         for (int j = 0; j < kh; ++j) {
@@ -451,17 +509,21 @@ struct Int2D {
                 acc += uint32_t(k * int32_t(p[i * stride]));
             }
         }
-        return int32_t(acc);
+        return saturate<D>(fin.scalar(int32_t(acc)));
     }
 
+    // One source row's pairs of taps for the output rows [Lo, Hi] of a pass.
     template <int RR>
-    void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
-        const int np = (kw + 1) / 2;
+    struct Pass {
         V<int32_t> acc[RR][4];
-        for (int r = 0; r < RR; ++r)
-            for (int k = 0; k < 4; ++k) acc[r][k] = isa::zero<int32_t>();
-        for (int s = 0; s < kh + RR - 1; ++s) {
-            const S* p = rowAt(src, sstep, y + s) + e;
+        const S* p;  // the source row at the block
+        const int32_t* pairs;
+        int s, kw;
+        int64_t stride;
+
+        template <int Lo, int Hi>
+        QVN_ALWAYS_INLINE void taps() {
+            const int np = (kw + 1) / 2;
             for (int q = 0; q < np; ++q) {
                 const S* a = p + 2 * q * stride;
                 V<int16_t> z[4];
@@ -471,18 +533,26 @@ struct Int2D {
                     z[2 * n] = isa::zipLoBlocks(x, x1);
                     z[2 * n + 1] = isa::zipHiBlocks(x, x1);
                 }
-                for (int r = 0; r < RR; ++r) {
-                    const int j = s - r;
-                    if (unsigned(j) >= unsigned(kh)) continue;
-                    const V<int16_t> c = isa::cast<int16_t>(isa::loadBlock(pairs + (j * np + q) * 4));
+                for (int r = Lo; r <= Hi; ++r) {
+                    const V<int16_t> c = isa::cast<int16_t>(isa::loadBlock(pairs + ((s - r) * np + q) * 4));
                     for (int k = 0; k < 4; ++k) acc[r][k] = isa::add(acc[r][k], isa::mulAddPairs(z[k], c));
                 }
             }
         }
-        for (int r = 0; r < RR; ++r) {
-            for (int k = 0; k < 4; ++k) acc[r][k] = fin.vector(acc[r][k]);
-            storeNarrowed(byteOffset(dst, (y + r) * dstep) + e, acc[r]);
-        }
+    };
+
+    template <int RR>
+    QVN_ALWAYS_INLINE Pass<RR> start() const {
+        Pass<RR> pass;
+        pass.pairs = pairs, pass.kw = kw, pass.stride = stride;
+        for (int r = 0; r < RR; ++r)
+            for (int k = 0; k < 4; ++k) pass.acc[r][k] = isa::zero<int32_t>();
+        return pass;
+    }
+    QVN_ALWAYS_INLINE void store(const V<int32_t>* acc, D* out) const {
+        V<int32_t> v[4];
+        for (int k = 0; k < 4; ++k) v[k] = fin.vector(acc[k]);
+        storeNarrowed(out, v);
     }
 };
 

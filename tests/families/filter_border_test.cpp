@@ -182,82 +182,62 @@ struct Shape {
 const std::vector<Shape> kShapes = {{1, 1, 0}, {3, 1, 0}, {1, 4, 0}, {2, 2, 0}, {3, 3, 1}, {3, 3, 0},
                                     {5, 4, 0}, {4, 5, 1}, {7, 7, 1}, {9, 2, 0}, {5, 5, 2}};
 
-// Integer kernels: exact sums, every divisor path.
+// Every shape with every border, over the ROI sizes. Integer kernels (every
+// divisor path) give exact sums, except that 16u images filter them in floats
+// as kernel / divisor; float kernels give the double sum within the float
+// error of the sums, integer images rounding it (either neighbour where the
+// sum lies within that error of a tie), and the same bits on every target.
 template <class T>
-void sweepInteger(const char* name, FilterFn<T> fn, int dataType, int C) {
+void sweep(const char* name, FilterFn<T> fn, int dataType, int C, bool integer) {
     const int divisors[] = {1, 4, 3, -4, 16, 7};
-    std::uint32_t seed = 11;
+    std::uint32_t seed = integer ? 11 : 7;
     for (const Shape& sh : kShapes)
         for (std::size_t bi = 0; bi < kBorders.size(); ++bi, ++seed) {
             const QvnRoiSize roi = kRois[seed % kRois.size()];
-            const int divisor = divisors[seed % 6], mode = int(seed % 3);
-            const bool exact = dataType != qvn16u && (seed % 4 == 0);
-            const Kernel k = intKernel(sh.kw, sh.kh, divisor, seed, sh.rank1);
-            const Built b = build(k, true, dataType, C, roi, mode | (exact ? 0x10000 : 0), seed);
-            runScene<T>(std::string(name) + " divisor " + std::to_string(divisor) + " mode " + std::to_string(mode), fn, b,
-                        k, C, roi.width, roi.height, kBorders[bi], seed, [&](const auto& px, T got) {
-                            if (dataType == qvn16u) {  // filtered in floats with kernel / divisor
-                                double sum = 0, mag = 0;
-                                for (int j = 0; j < k.kh; ++j)
-                                    for (int i = 0; i < k.kw; ++i) {
-                                        const double c = double(float(k.k[std::size_t(j * k.kw + i)] * (1.0 / divisor)));
-                                        sum += c * double(px(j, i)), mag += std::fabs(c * double(px(j, i)));
-                                    }
-                                return floatMatches<T>(sum, mag, mode, got);
-                            }
-                            std::int64_t sum = 0;
-                            for (int j = 0; j < k.kh; ++j)
-                                for (int i = 0; i < k.kw; ++i) sum += std::int64_t(k.k[std::size_t(j * k.kw + i)]) * px(j, i);
-                            return got == ref::divided<T>(sum, divisor, mode, exact, 0);
-                        }, dataType == qvn16u);
-            if (testing::Test::HasFailure()) return;
-        }
-}
-
-// Float kernels: the double sum, within the float error of the sums;
-// integer images round it (either neighbour where the sum lies within that
-// error of a tie).
-template <class T>
-void sweepFloat(const char* name, FilterFn<T> fn, int dataType, int C) {
-    std::uint32_t seed = 7;
-    for (const Shape& sh : kShapes)
-        for (std::size_t bi = 0; bi < kBorders.size(); ++bi, ++seed) {
-            const QvnRoiSize roi = kRois[seed % kRois.size()];
-            const int mode = dataType == qvn64f ? 1 : int(seed % 3);
-            const Kernel k = floatKernel(sh.kw, sh.kh, seed, sh.rank1 != 0);
-            const Built b = build(k, false, dataType, C, roi, mode, seed);
-            runScene<T>(std::string(name) + " mode " + std::to_string(mode), fn, b, k, C, roi.width, roi.height,
-                        kBorders[bi], seed, [&](const auto& px, T got) {
-                            double sum = 0, mag = 0;
-                            for (int j = 0; j < k.kh; ++j)
-                                for (int i = 0; i < k.kw; ++i) {
-                                    const double c = k.k[std::size_t(j * k.kw + i)] * double(px(j, i));
-                                    sum += c, mag += std::fabs(c);
-                                }
-                            return floatMatches<T>(sum, mag, mode, got);
-                        }, true);
+            const int divisor = integer ? divisors[seed % 6] : 1, mode = dataType == qvn64f ? 1 : int(seed % 3);
+            const bool floats = !integer || dataType == qvn16u, exact = !floats && seed % 4 == 0;
+            const Kernel k = integer ? intKernel(sh.kw, sh.kh, divisor, seed, sh.rank1)
+                                     : floatKernel(sh.kw, sh.kh, seed, sh.rank1 != 0);
+            const Built b = build(k, integer, dataType, C, roi, mode | (exact ? 0x10000 : 0), seed);
+            const std::string what = std::string(name) + " divisor " + std::to_string(divisor) + " mode " + std::to_string(mode);
+            runScene<T>(what, fn, b, k, C, roi.width, roi.height, kBorders[bi], seed, [&](const auto& px, T got) {
+                if (!floats) {
+                    std::int64_t sum = 0;
+                    for (int j = 0; j < k.kh; ++j)
+                        for (int i = 0; i < k.kw; ++i) sum += std::int64_t(k.k[std::size_t(j * k.kw + i)]) * px(j, i);
+                    return got == ref::divided<T>(sum, divisor, mode, exact, 0);
+                }
+                double sum = 0, mag = 0;
+                for (int j = 0; j < k.kh; ++j)
+                    for (int i = 0; i < k.kw; ++i) {
+                        const double c = k.k[std::size_t(j * k.kw + i)];
+                        const double term = (integer ? double(float(c * (1.0 / divisor))) : c) * double(px(j, i));
+                        sum += term, mag += std::fabs(term);
+                    }
+                return floatMatches<T>(sum, mag, mode, got);
+            }, floats);
             if (testing::Test::HasFailure()) return;
         }
 }
 
 TEST(FilterBorder, IntegerKernelsAreExactForEveryBorderAndDivisor) {
-    sweepInteger<Qvn8u>("8u C1", qvniFilterBorder_8u_C1R, qvn8u, 1);
-    sweepInteger<Qvn8u>("8u C3", qvniFilterBorder_8u_C3R, qvn8u, 3);
-    sweepInteger<Qvn8u>("8u C4", qvniFilterBorder_8u_C4R, qvn8u, 4);
-    sweepInteger<Qvn16s>("16s C1", qvniFilterBorder_16s_C1R, qvn16s, 1);
-    sweepInteger<Qvn16s>("16s C3", qvniFilterBorder_16s_C3R, qvn16s, 3);
-    sweepInteger<Qvn16u>("16u C4 (float)", qvniFilterBorder_16u_C4R, qvn16u, 4);
+    sweep<Qvn8u>("8u C1", qvniFilterBorder_8u_C1R, qvn8u, 1, true);
+    sweep<Qvn8u>("8u C3", qvniFilterBorder_8u_C3R, qvn8u, 3, true);
+    sweep<Qvn8u>("8u C4", qvniFilterBorder_8u_C4R, qvn8u, 4, true);
+    sweep<Qvn16s>("16s C1", qvniFilterBorder_16s_C1R, qvn16s, 1, true);
+    sweep<Qvn16s>("16s C3", qvniFilterBorder_16s_C3R, qvn16s, 3, true);
+    sweep<Qvn16u>("16u C4 (float)", qvniFilterBorder_16u_C4R, qvn16u, 4, true);
 }
 
 TEST(FilterBorder, FloatKernelsFollowTheDoubleSum) {
-    sweepFloat<Qvn32f>("32f C1", qvniFilterBorder_32f_C1R, qvn32f, 1);
-    sweepFloat<Qvn32f>("32f C3", qvniFilterBorder_32f_C3R, qvn32f, 3);
-    sweepFloat<Qvn32f>("32f C4", qvniFilterBorder_32f_C4R, qvn32f, 4);
-    sweepFloat<Qvn8u>("8u C1", qvniFilterBorder_8u_C1R, qvn8u, 1);
-    sweepFloat<Qvn8u>("8u C3", qvniFilterBorder_8u_C3R, qvn8u, 3);
-    sweepFloat<Qvn16u>("16u C1", qvniFilterBorder_16u_C1R, qvn16u, 1);
-    sweepFloat<Qvn16s>("16s C4", qvniFilterBorder_16s_C4R, qvn16s, 4);
-    sweepFloat<Qvn64f>("64f C1", qvniFilterBorder_64f_C1R, qvn64f, 1);
+    sweep<Qvn32f>("32f C1", qvniFilterBorder_32f_C1R, qvn32f, 1, false);
+    sweep<Qvn32f>("32f C3", qvniFilterBorder_32f_C3R, qvn32f, 3, false);
+    sweep<Qvn32f>("32f C4", qvniFilterBorder_32f_C4R, qvn32f, 4, false);
+    sweep<Qvn8u>("8u C1", qvniFilterBorder_8u_C1R, qvn8u, 1, false);
+    sweep<Qvn8u>("8u C3", qvniFilterBorder_8u_C3R, qvn8u, 3, false);
+    sweep<Qvn16u>("16u C1", qvniFilterBorder_16u_C1R, qvn16u, 1, false);
+    sweep<Qvn16s>("16s C4", qvniFilterBorder_16s_C4R, qvn16s, 4, false);
+    sweep<Qvn64f>("64f C1", qvniFilterBorder_64f_C1R, qvn64f, 1, false);
 }
 
 }  // namespace
