@@ -321,9 +321,11 @@ TEST(FilterBorder, KernelsApplyInTheCallersOrder) {
 
 TEST(FilterBorder, BorderKindsAndSpecsAreChecked) {
     const Built b = build({3, 3, std::vector<double>(9, 1.0), 9}, true, qvn8u, 1, {4, 4}, qvnRndNear, 3);
-    const std::vector<Qvn8u> src(16, 9);
+    const std::vector<Qvn8u> src(16, 9), around(64, 9);  // a 4x4 ROI, and one inside an 8x8 image
+    std::vector<Qvn8u> out(16);
     for (int border : {1, 3, 6, 240, 241, 81, 6 | 128, 3 | 240})
-        filterOnce<Qvn8u>(qvniFilterBorder_8u_C1R, b, src, 4, 4, border, src.data());
+        EXPECT_EQ(qvniFilterBorder_8u_C1R(around.data() + 18, 8, out.data(), 4, {4, 4}, border, src.data(), b.p(),
+                                          b.buffer->data()), qvnOk) << border;
     for (int border : {0, 2, 4, 5, 7, 8, 16, 32, 112, 256, 257, 262, -1})
         filterOnce<Qvn8u>(qvniFilterBorder_8u_C1R, b, src, 4, 4, border, src.data(), qvnErrBorderKind);
     // the constant kind's value is a pointer checked first; with it, every border pixel is it
