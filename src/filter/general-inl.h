@@ -26,6 +26,7 @@
 #include "core/check-inl.h"
 #include "core/fpround-inl.h"
 #include "core/spec-inl.h"
+#include "core/stream-inl.h"
 #include "filter/bordered-inl.h"
 #include "kernels/filter-inl.h"
 #include "qvncore.h"
@@ -424,13 +425,18 @@ inline kf::IntFinish finishOf(const FilterSpec& s) {
     return f;
 }
 
-// Runs the spec's kernel over the ROI through the bordered driver.
+// Runs the spec's kernel over the ROI through the bordered driver. Images
+// that would only evict the cache are written with non-temporal stores (each
+// kernel call fences them before it returns).
 template <class T, class L>
 inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
                     int border, const T* value, void* buffer) {
     const Layout l = layoutOf(s);
-    const std::int64_t C = L::kElems;
-    const auto run = [&](const auto& kernel) {
+    const std::int64_t C = L::kElems, bytes = roi.width * roi.height * C * std::int64_t(sizeof(T));
+    const bool stream = useStreamingStores(std::uint64_t(bytes), kStreamThreshold, 2 * std::uint64_t(bytes));
+    // the separable kernels store chunk by chunk, overlapping: they keep to the cache
+    const auto run = [&](auto kernel, bool streams = true) {
+        kernel.stream = stream && streams;
         runBordered<T, L>(src, srcStep, dst, dstStep, roi, border, value, reachOf(s.kw, s.kh), buffer, kernel);
     };
     if constexpr (std::is_same_v<T, Qvn64f>) {
@@ -439,22 +445,23 @@ inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* 
     } else {
         if constexpr (std::is_same_v<T, Qvn8u> || std::is_same_v<T, Qvn16s>) {
             if (isIntegerId(s.id)) {
-                const kf::Int2D<T, T> k2{{}, block<const std::int32_t>(&s, l.converted), s.kw, s.kh, C, finishOf(s)};
                 if constexpr (std::is_same_v<T, Qvn8u>) {
                     if (s.separable && kf::Int8uSeparable::fits(s.kw, C)) {
                         kf::IntFinish f = finishOf(s);
                         f.pre = kf::IntFinish::wrap(std::int64_t(f.pre) + s.sepCorrection);
                         const kf::Int2D<Qvn16s, Qvn8u> rows{{}, block<const std::int32_t>(&s, l.rowFactors), s.kw, 1, C, f};
-                        return run(kf::Int8uSeparable{rows, block<const std::int32_t>(&s, l.colFactors), s.kh, s.sepBias});
+                        return run(kf::Int8uSeparable{rows, block<const std::int32_t>(&s, l.colFactors), s.kh, s.sepBias},
+                                   false);
                     }
                 }
-                return run(k2);
+                return run(kf::Int2D<T, T>{{}, block<const std::int32_t>(&s, l.converted), s.kw, s.kh, C, finishOf(s)});
             }
         }
         const kf::FloatFinish<float> fin{s.offsetF, s.rounding & 3};
         using Sep = kf::FloatSeparable<float, T, T>;
         if (s.separable && Sep::fits(s.kw, C))
-            return run(Sep{block<const float>(&s, l.rowFactors), block<const float>(&s, l.colFactors), s.kw, s.kh, C, fin});
+            return run(Sep{block<const float>(&s, l.rowFactors), block<const float>(&s, l.colFactors), s.kw, s.kh, C, fin},
+                       false);
         run(kf::Float2D<float, T, T>{{}, block<const float>(&s, l.converted), s.kw, s.kh, C, fin});
     }
 }

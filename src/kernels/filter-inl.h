@@ -213,13 +213,21 @@ inline void makePairs(const At& k, int kw, int kh, int32_t* out) {
         }
 }
 
+// A result vector to p: non-temporal where the call streams and p is
+// vector-aligned (the caller fences before it returns), else as usual.
+template <class T>
+QVN_ALWAYS_INLINE void put(T* p, V<T> v, bool stream) {
+    if (stream && isa::alignedV(p)) isa::storeStream(p, v);
+    else isa::storeU(p, v);
+}
+
 // ---- storing blocks -----------------------------------------------------------------------------
 // NV float (or double) vectors of results to NV * lanes elements of D.
 template <class D, int NV, class W>
-QVN_ALWAYS_INLINE void storeResults(D* p, const V<W>* acc, const FloatFinish<W>& fin) {
+QVN_ALWAYS_INLINE void storeResults(D* p, const V<W>* acc, const FloatFinish<W>& fin, bool stream) {
     constexpr int64_t L = int64_t(isa::kLanes<W>);
     if constexpr (std::is_same_v<D, W>) {
-        for (int k = 0; k < NV; ++k) isa::storeU(p + k * L, acc[k]);  // float images take no offset
+        for (int k = 0; k < NV; ++k) put(p + k * L, acc[k], stream);  // float images take no offset
     } else {
         const V<W> off = isa::set1(fin.offset);
         static_assert(std::is_same_v<W, float>, "integer destinations from float sums");
@@ -227,12 +235,12 @@ QVN_ALWAYS_INLINE void storeResults(D* p, const V<W>* acc, const FloatFinish<W>&
         for (int k = 0; k < NV; ++k) t[k] = roundVector(isa::add(acc[k], off), fin.mode);
         if constexpr (sizeof(D) == 2) {
             static_assert(NV % 2 == 0, "pairs of vectors");
-            for (int k = 0; k < NV; k += 2) isa::storeU(p + k * L, isa::packSat<D>(t[k], t[k + 1]));
+            for (int k = 0; k < NV; k += 2) put(p + k * L, isa::packSat<D>(t[k], t[k + 1]), stream);
         } else {
             static_assert(sizeof(D) == 1 && NV % 4 == 0, "quads of vectors");
             for (int k = 0; k < NV; k += 4)
-                isa::storeU(p + k * L, isa::packSat<D>(isa::packSat<int16_t>(t[k], t[k + 1]),
-                                                       isa::packSat<int16_t>(t[k + 2], t[k + 3])));
+                put(p + k * L, isa::packSat<D>(isa::packSat<int16_t>(t[k], t[k + 1]), isa::packSat<int16_t>(t[k + 2], t[k + 3])),
+                    stream);
         }
     }
 }
@@ -265,43 +273,44 @@ QVN_ALWAYS_INLINE void prefetchRows(const S* src, int64_t sstep, int64_t first, 
 }
 
 // Calls block(e) for the blocks of B elements that cover [0, n) (the last one
-// overlapping), or scalar(e) for every element when n < B.
+// overlapping), or scalar(e) for every element when n < B. With head in
+// (0, B), the blocks after the first start at head (a destination's vector
+// alignment), overlapping the first.
 template <class Block, class Scalar>
-inline void forBlocks(int64_t n, int64_t B, const Block& block, const Scalar& scalar) {
+QVN_ALWAYS_INLINE void forBlocks(int64_t n, int64_t B, const Block& block, const Scalar& scalar, int64_t head = 0) {
     if (n < B) {
         for (int64_t e = 0; e < n; ++e) scalar(e);
         return;
     }
     int64_t e = 0;
+    if (head > 0 && head < B && n - head >= B) block(0), e = head;
     for (; e + B <= n; e += B) block(e);
     if (e < n) block(n - B);
 }
 
-// Calls body.template taps<Lo, Hi>() for the output rows [lo, hi] of a pass
-// of RR rows that one source row feeds, with Lo and Hi as constants (each
-// range its own loop, without a test per row and tap).
-template <int RR, class Body>
-QVN_ALWAYS_INLINE void forRowRange(int lo, int hi, Body& body) {
-#define QVN_FILTER_RANGE(L, H) \
-    case L * 4 + H:            \
-        if constexpr (H < RR) body.template taps<L, H>(); \
-        break;
-    static_assert(RR <= 4, "up to four rows per pass");
-    switch (lo * 4 + hi) {
-        QVN_FILTER_RANGE(0, 0) QVN_FILTER_RANGE(0, 1) QVN_FILTER_RANGE(0, 2) QVN_FILTER_RANGE(0, 3)
-        QVN_FILTER_RANGE(1, 1) QVN_FILTER_RANGE(1, 2) QVN_FILTER_RANGE(1, 3)
-        QVN_FILTER_RANGE(2, 2) QVN_FILTER_RANGE(2, 3) QVN_FILTER_RANGE(3, 3)
-        default: break;
+// f(std::integral_constant<int, k>) for k = From .. To - 1, unrolled.
+template <int From, int To, class F>
+QVN_ALWAYS_INLINE void unrolled(const F& f) {
+    if constexpr (From < To) {
+        f(std::integral_constant<int, From>{});
+        unrolled<From + 1, To>(f);
     }
-#undef QVN_FILTER_RANGE
 }
 
 // The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
-// of K::R output rows, then single rows; blocks of K::kBlock elements along
+// of K::R output rows (of two for kernels lower than K::R - 1), then single rows; blocks of K::kBlock elements along
 // them, the last overlapping, or element by element (K::scalar) in rows
 // narrower than a block. A pass walks each source row of its window once
 // (K::Pass, its taps for the pass's rows that the row feeds) and asks for the
 // next pass's new rows ahead.
+// Elements from p to the next vector-aligned element (0 when p is not even
+// element-aligned).
+template <class D>
+inline int64_t alignmentHead(const D* p) {
+    const auto a = reinterpret_cast<std::uintptr_t>(p);
+    return a % sizeof(D) != 0 ? 0 : int64_t((isa::kVectorBytes - a % isa::kVectorBytes) % isa::kVectorBytes / sizeof(D));
+}
+
 template <class K, class S, class D>
 struct RowPasses {
     const K& self() const { return static_cast<const K&>(*this); }
@@ -309,30 +318,49 @@ struct RowPasses {
 
     void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
         int64_t y = 0;
-        for (; y + K::R <= h; y += K::R) rows<K::R>(src, sstep, dst, dstep, w, y, h);
+        if (self().kh >= K::R - 1) {
+            for (; y + K::R <= h; y += K::R) rows<K::R>(src, sstep, dst, dstep, w, y, h);
+        } else {  // kernels of one or two rows: passes of two
+            for (; y + 2 <= h; y += 2) rows<2>(src, sstep, dst, dstep, w, y, h);
+        }
         for (; y < h; ++y) rows<1>(src, sstep, dst, dstep, w, y, h);
+        isa::storeFence();  // streamed stores, where the kernel streams, are ordered before it returns
     }
 
     template <int RR>
-    void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y, int64_t h) const {
+    QVN_ALWAYS_INLINE void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y,
+                                int64_t h) const {
         const int kh = self().kh;
         const int64_t ahead = y + kh + RR - 1, last = h + kh - 2;
-        forBlocks(w, K::kBlock, [&](int64_t e) {
+        // rows and blocks melt into the kernel call, which fences what streamed
+        forBlocks(w, K::kBlock, [&](int64_t e) __attribute__((always_inline)) {
             prefetchRows(src, sstep, ahead, RR, last, e, K::kBlock * int64_t(sizeof(S)));
             block<RR>(src, sstep, dst, dstep, y, e);
         }, [&](int64_t e) {
             for (int r = 0; r < RR; ++r) byteOffset(dst, (y + r) * dstep)[e] = self().scalar(src, sstep, y + r, e);
-        });
+        }, self().stream ? alignmentHead(byteOffset(dst, y * dstep)) : 0);
     }
 
+    // A pass of RR rows (kh >= RR - 1): source row s feeds the output rows
+    // [max(0, s - kh + 1), min(RR - 1, s)]: the first and last RR - 1 rows
+    // of the window feed a growing and a shrinking range, the others all.
     template <int RR>
-    void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
+    QVN_ALWAYS_INLINE void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
         typename K::template Pass<RR> pass = self().template start<RR>();
-        const int rows = self().kh + RR - 1, kh = self().kh;
-        for (int s = 0; s < rows; ++s) {
-            pass.p = rowAt(src, sstep, y + s) + e, pass.s = s;
-            forRowRange<RR>(s - kh + 1 > 0 ? s - kh + 1 : 0, s < RR - 1 ? s : RR - 1, pass);
+        const int kh = self().kh;
+        const auto at = [&](int s) __attribute__((always_inline)) { pass.p = rowAt(src, sstep, y + s) + e, pass.s = s; };
+        unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
+            at(k.value);
+            pass.template taps<0, decltype(k)::value>();
+        });
+        for (int s = RR - 1; s < kh; ++s) {
+            at(s);
+            pass.template taps<0, RR - 1>();
         }
+        unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
+            at(kh + k.value);
+            pass.template taps<decltype(k)::value + 1, RR - 1>();
+        });
         for (int r = 0; r < RR; ++r) self().store(pass.acc[r], byteOffset(dst, (y + r) * dstep) + e);
     }
 };
@@ -350,6 +378,7 @@ struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
     int kw, kh;
     int64_t stride;
     FloatFinish<W> fin;
+    bool stream = false;  // non-temporal stores where aligned
 
     D scalar(const S* src, int64_t sstep, int64_t y, int64_t e) const {
         W acc = 0;
@@ -390,7 +419,7 @@ struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
             for (int k = 0; k < NV; ++k) pass.acc[r][k] = isa::zero<W>();
         return pass;
     }
-    QVN_ALWAYS_INLINE void store(const V<W>* acc, D* out) const { storeResults<D, NV>(out, acc, fin); }
+    QVN_ALWAYS_INLINE void store(const V<W>* acc, D* out) const { storeResults<D, NV>(out, acc, fin, stream); }
 };
 
 // ---- separable float sums ------------------------------------------------------------------------
@@ -408,6 +437,7 @@ struct FloatSeparable {
     int kw, kh;
     int64_t stride;
     FloatFinish<W> fin;
+    bool stream = false;  // unused: the rows are stored chunk by chunk, overlapping, into the cache
 
     // Whether the scratch row holds a chunk with its horizontal neighbours.
     static bool fits(int kw, int64_t stride) { return kChunk + (kw - 1) * stride <= kScratch; }
@@ -460,7 +490,7 @@ struct FloatSeparable {
             const V<W> c = coefVec(rowCoef, i);
             for (int k = 0; k < NV; ++k) acc[k] = isa::add(acc[k], isa::mul(isa::loadU(t + i * stride + k * L), c));
         }
-        storeResults<D, NV>(out, acc, fin);
+        storeResults<D, NV>(out, acc, fin, false);
     }
 };
 
@@ -476,14 +506,14 @@ inline V<int16_t> loadPixels(const S* p) {
 }
 
 template <class D>
-QVN_ALWAYS_INLINE void storeNarrowed(D* p, const V<int32_t>* acc) {
+QVN_ALWAYS_INLINE void storeNarrowed(D* p, const V<int32_t>* acc, bool stream) {
     constexpr int64_t L16 = int64_t(isa::kLanes<int16_t>);
     const V<int16_t> a = isa::packSatBlocks(acc[0], acc[1]), b = isa::packSatBlocks(acc[2], acc[3]);
     if constexpr (sizeof(D) == 1) {
-        isa::storeU(p, isa::packSat<D>(a, b));
+        put(p, isa::packSat<D>(a, b), stream);
     } else {
-        isa::storeU(p, isa::cast<D>(a));
-        isa::storeU(p + L16, isa::cast<D>(b));
+        put(p, isa::cast<D>(a), stream);
+        put(p + L16, isa::cast<D>(b), stream);
     }
 }
 
@@ -497,6 +527,7 @@ struct Int2D : RowPasses<Int2D<S, D>, S, D> {
     int kw, kh;
     int64_t stride;
     IntFinish fin;
+    bool stream = false;  // non-temporal stores where aligned
 
     D scalar(const S* src, int64_t sstep, int64_t y, int64_t e) const {
         const int np = (kw + 1) / 2;
@@ -552,7 +583,7 @@ struct Int2D : RowPasses<Int2D<S, D>, S, D> {
     QVN_ALWAYS_INLINE void store(const V<int32_t>* acc, D* out) const {
         V<int32_t> v[4];
         for (int k = 0; k < 4; ++k) v[k] = fin.vector(acc[k]);
-        storeNarrowed(out, v);
+        storeNarrowed(out, v, stream);
     }
 };
 
@@ -570,6 +601,7 @@ struct Int8uSeparable {
     const int32_t* colPairs;     // (kh + 1) / 2 pair blocks of vertical neighbours
     int kh;
     int32_t bias;
+    bool stream = false;         // unused: the rows are stored chunk by chunk, overlapping, into the cache
 
     static bool fits(int kw, int64_t stride) { return kChunk + (kw - 1) * stride <= kScratch; }
     int64_t blockElems() const { return rows.blockElems(); }

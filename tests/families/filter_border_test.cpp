@@ -19,6 +19,7 @@
 #include "qvnip.h"
 #include "ref/filter_ref.h"
 #include "filter/general-inl.h"
+#include "support/cache_double.h"
 #include "support/sweep.h"
 
 namespace qvn::test {
@@ -437,6 +438,40 @@ TEST(FilterBorder, ThreadsShareOneSpec) {
         });
     for (std::thread& t : threads) t.join();
     for (const auto& g : got) EXPECT_EQ(g, want);
+}
+
+}  // namespace
+}  // namespace qvn::test
+
+namespace qvn::test {
+namespace {
+
+// Images that would only evict the cache are written with non-temporal
+// stores: the cache size is asked for from 0x80001 destination bytes on, and
+// the results equal the cached stores' (every kernel kind).
+TEST(FilterBorder, StreamedResultsEqualCachedOnes) {
+    const int w = 1027, h = 640;  // 657,280 bytes of 8u; the rows start off the vector alignment
+    std::vector<Qvn8u> src8(std::size_t(w * h));
+    std::vector<Qvn32f> src32(src8.size());
+    for (std::size_t i = 0; i < src8.size(); ++i) src8[i] = Qvn8u(i * 2654435761u >> 24), src32[i] = float(src8[i]);
+    const auto twice = [&](auto fn, const auto& src, const Built& b) {
+        using T = std::decay_t<decltype(src[0])>;
+        std::vector<T> out[2];
+        for (int streamed = 0; streamed < 2; ++streamed) {
+            resetCacheDouble();
+            cacheDouble().sizeBytes = streamed ? 1 : 1 << 30;
+            out[streamed].assign(src.size(), T(0));
+            EXPECT_EQ(fn(src.data() + 1, int(w * sizeof(T)), out[streamed].data() + 1, int(w * sizeof(T)), {w - 1, h},
+                         qvnBorderReplicate, nullptr, b.p(), b.buffer->data()), qvnOk);
+            EXPECT_GE(cacheDouble().calls, 1);
+        }
+        resetCacheDouble();
+        EXPECT_EQ(out[0], out[1]);
+    };
+    twice(qvniFilterBorder_8u_C1R, src8, build(intKernel(5, 3, 16, 1), true, qvn8u, 1, {w, h}, 1, 1));
+    twice(qvniFilterBorder_8u_C1R, src8, build(intKernel(5, 5, 64, 2, 1), true, qvn8u, 1, {w, h}, 1, 2));
+    twice(qvniFilterBorder_32f_C1R, src32, build(floatKernel(3, 3, 3), false, qvn32f, 1, {w, h}, 1, 3));
+    twice(qvniFilterBorder_32f_C1R, src32, build(floatKernel(7, 7, 4, true), false, qvn32f, 1, {w, h}, 1, 4));
 }
 
 }  // namespace
