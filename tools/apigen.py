@@ -253,6 +253,15 @@ CHECK_WORDS = {
     "convsize": ("an algType whose low byte is above 2 (qvnErrAlgorithm); a channel count other than 1, 3, 4 "
                  "(qvnErrChannelCount); bits 16 to 23 of algType neither 0 nor 1 (qvnErrAlgorithm); a data type "
                  "other than 8u, 16s, 32f (qvnErrDataType); a buffer size above 2^31 - 1 (qvnErrSizeOverflow)"),
+    "mask": "a mask width or height below 1 (qvnErrMaskSize)",
+    "boxsize": ("a data type other than 8u, 16u, 16s, 32f (qvnErrDataType); a channel count other than 1, 3, 4 "
+                "(qvnErrChannelCount); a buffer size above 2^31 - 1 (qvnErrSizeOverflow, nothing written)"),
+    "width": "a width below 1 (qvnErrSize)",
+    "masklen": "a maskSize below 1 (qvnErrMaskSize)",
+    "anchor": ("an anchor outside 0..maskSize - 1, compared unsigned (qvnErrAnchor); a height below 1 is no error: "
+               "nothing is written"),
+    "boxsteps": ("a source step below (maskSize.width + width - 1) x 8 or a destination step below width x 8 "
+                 "(qvnErrStep)"),
     "setmode": ("a spec that no initialiser of the family built (qvnErrBadSpec); a nonzero offset for a 16s, 32f "
                 "or 64f spec (qvnErrBadMode)"),
 }
@@ -261,7 +270,7 @@ CHECK_WORDS = {
 # order goes on past them.
 PASSIVE_CHECKS = {"bvalue"}
 # Family step checks that a step of 0 or -1 fails like "step".
-STEP_CHECKS = {"dstrow", "rowsteps"}
+STEP_CHECKS = {"dstrow", "rowsteps", "boxsteps"}
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")
 
