@@ -186,9 +186,6 @@ template <class S, class D, class L, class A, bool Mean>
 inline constexpr BoxKernels kBoxKernels = {&addKernel<S, A>, &updateKernel<S, A>, &sumsKernel<A, L::kElems>,
                                            &finishKernel<A, D, L::kAlpha, Mean>, &fillKernel<S, L>};
 
-// Window sums of a row are made in chunks of this many elements on the stack.
-inline constexpr std::int64_t kBoxChunk = 2048;
-
 // A bordered row: its columns left of the ROI, in it and right of it.
 struct BoxSpans {
     const unsigned char *left, *mid, *right;
@@ -237,33 +234,51 @@ inline void boxRows(const BoxJob& j, unsigned char* area, const BoxLayout& l, bo
         }
         return s;
     };
-    const std::int64_t midAt = k.left * C * 4, rightAt = (k.left + W) * C * 4;
-    const auto add = [&](const BoxSpans& in) {
-        if (leftBytes > 0) j.k->add(columns, in.left, k.left * C);
-        j.k->add(columns + midAt, in.mid, W * C);
-        if (rightBytes > 0) j.k->add(columns + rightAt, in.right, k.right * C);
-    };
-    const auto update = [&](const BoxSpans& in, const BoxSpans& out) {
-        if (leftBytes > 0) j.k->update(columns, in.left, out.left, k.left * C);
-        j.k->update(columns + midAt, in.mid, out.mid, W * C);
-        if (rightBytes > 0) j.k->update(columns + rightAt, in.right, out.right, k.right * C);
+    // the column sums of elements [a, b) of the bordered row take bordered
+    // row `in` (and give up row `out`), span by span
+    const std::int64_t total = (W + kw - 1) * C, spanEnds[3] = {k.left * C, (k.left + W) * C, total};
+    const auto apply = [&](const BoxSpans& in, const BoxSpans* out, std::int64_t a, std::int64_t b) {
+        const unsigned char* const ins[3] = {in.left, in.mid, in.right};
+        const unsigned char* const outs[3] = {out ? out->left : nullptr, out ? out->mid : nullptr, out ? out->right : nullptr};
+        for (int p = 0; p < 3; ++p) {
+            const std::int64_t lo = p == 0 ? 0 : spanEnds[p - 1], s0 = std::max(a, lo), s1 = std::min(b, spanEnds[p]);
+            if (s0 >= s1) continue;
+            if (out) j.k->update(columns + s0 * 4, ins[p] + (s0 - lo) * e, outs[p] + (s0 - lo) * e, s1 - s0);
+            else j.k->add(columns + s0 * 4, ins[p] + (s0 - lo) * e, s1 - s0);
+        }
     };
 
-    std::memset(columns, 0, std::size_t((W + kw - 1) * C * 4));  // zero bits: 0 and 0.0f
-    for (std::int64_t q = -k.top; q <= k.bottom; ++q) add(spans(q, 0));
-    alignas(64) unsigned char chunk[(boxk::kPad + kBoxChunk) * 4];
+    std::memset(columns, 0, std::size_t(total * 4));  // zero bits: 0 and 0.0f
+    for (std::int64_t q = -k.top; q <= k.bottom; ++q) apply(spans(q, 0), nullptr, 0, total);
+    alignas(64) unsigned char chunk[(boxk::kPad + boxk::kChunk) * 4];
     unsigned char* const sums = chunk + boxk::kPad * 4;
     const std::int64_t n = W * C;
     for (std::int64_t y = 0; y < H; ++y) {
         if (inPlace) std::memcpy(ring + (y % slots) * rowBytes, j.src + y * j.srcStep, std::size_t(rowBytes));
-        unsigned char* out = j.dst + y * j.dstStep;
-        for (std::int64_t e0 = 0; e0 < n; e0 += kBoxChunk) {
-            const std::int64_t m = std::min(kBoxChunk, n - e0);
+        // the next row's column sums are updated behind the window sums, chunk
+        // by chunk, while they are in the cache (the sums read from 4C
+        // elements before their chunk on); the row that enters after it is
+        // fetched meanwhile
+        const bool next = y + 1 < H;
+        const BoxSpans in = next ? spans(y + 1 + k.bottom, y + 1) : BoxSpans{};
+        const BoxSpans out = next ? spans(y - k.top, y + 1) : BoxSpans{};
+        const unsigned char* const ahead = y + 2 + k.bottom < H ? j.src + (y + 2 + k.bottom) * j.srcStep : nullptr;
+        unsigned char* const dst = j.dst + y * j.dstStep;
+        std::int64_t done = 0;
+        for (std::int64_t e0 = 0; e0 < n; e0 += boxk::kChunk) {
+            const std::int64_t m = std::min(boxk::kChunk, n - e0);
             j.k->sums(columns, kw, e0, m, sums);
-            j.k->finish(sums, out + e0 * j.dstBytes, m, j.scale);
-            if (m == kBoxChunk) std::memcpy(chunk, sums + (m - boxk::kPad) * 4, boxk::kPad * 4);
+            j.k->finish(sums, dst + e0 * j.dstBytes, m, j.scale);
+            if (m == boxk::kChunk) std::memcpy(chunk, sums + (m - boxk::kPad) * 4, boxk::kPad * 4);
+            if (!next) continue;
+            const std::int64_t upto = e0 + m == n ? total : std::max(done, e0 + m - 4 * C);
+            apply(in, &out, done, upto);
+            if (ahead != nullptr) {
+                const std::int64_t a = std::max(done, spanEnds[0]) - spanEnds[0], b = std::min(upto, spanEnds[1]) - spanEnds[0];
+                for (std::int64_t x = a * e; x < b * e; x += 64) __builtin_prefetch(ahead + x);
+            }
+            done = upto;
         }
-        if (y + 1 < H) update(spans(y + 1 + k.bottom, y + 1), spans(y - k.top, y + 1));
     }
 }
 
@@ -314,11 +329,8 @@ inline QvnStatus boxWindow(const S* pSrc, std::int64_t srcStep, D* pDst, std::in
     BoxJob j{reinterpret_cast<const unsigned char*>(pSrc), srcStep, reinterpret_cast<unsigned char*>(pDst), dstStep,
              roi.width, roi.height, L::kElems, std::int64_t(sizeof(S)), std::int64_t(sizeof(D)),
              reachOf(mask.width, mask.height), border, pBorderValue, 1.0f / static_cast<float>(area), nullptr};
-    if constexpr (std::is_floating_point_v<S>) {
-        j.k = &kBoxKernels<S, D, L, float, Mean>;
-    } else {
-        j.k = sumsFitInt32<S>(area) ? &kBoxKernels<S, D, L, std::int32_t, Mean> : &kBoxKernels<S, D, L, float, Mean>;
-    }
+    if constexpr (std::is_floating_point_v<S>) j.k = &kBoxKernels<S, D, L, float, Mean>;
+    else j.k = sumsFitInt32<S>(area) ? &kBoxKernels<S, D, L, std::int32_t, Mean> : &kBoxKernels<S, D, L, float, Mean>;
     runBox(j, pBuffer);
     return qvnOk;
 }

@@ -20,8 +20,9 @@
 //                               before the first
 //   rowSums<A, C>(col, kw, e0, n, out)
 //                               out[i] = s[e0 + i], s[e] = sum over t < kw of
-//                               col[e + t * C], with out[-kPad, 0) holding the
-//                               sums before e0 (row chunks)
+//                               col[e + t * C], for n <= kChunk, with
+//                               out[-kPad, 0) holding the sums before e0 (row
+//                               chunks); it reads col[e0 - 4C, e0 + n + (kw - 1) C)
 //   finishRow<A, D, Alpha, Mean>(sums, dst, n, scale)
 //                               sums to destination elements
 //
@@ -61,8 +62,8 @@ template <class T>
 using V = isa::Vec<T>;
 
 // Sums before a row chunk that the window sums read: the widest vector of
-// int32 lanes, and four pixels of four elements.
-inline constexpr int64_t kPad = 64;
+// int32 lanes, and four pixels of four elements; the longest chunk.
+inline constexpr int64_t kPad = 64, kChunk = 1024;
 
 // The type in which a source's values and differences are formed.
 template <class S>
@@ -186,7 +187,33 @@ inline void windowSumsInt(const int32_t* lead, const int32_t* trail, int32_t* ou
     };
     V<int32_t> carry = isa::repeatLastPixel<C>(isa::loadU(out - N));
     int64_t i = 0;
-    for (; i + N <= n; i += N) carry = isa::repeatLastPixel<C>(sums(i, carry));
+    if constexpr (N % C == 0) {
+        // the carry keeps its channel order: its next value is its sum with the
+        // block's last pixel, so the chain is one add per vector
+        for (; i + N <= n; i += N) {
+            const V<int32_t> p = channelPrefix<C>(isa::sub(isa::loadU(lead + i), isa::loadU(trail + i)));
+            isa::storeU(out + i, isa::add(carry, p));
+            carry = isa::add(carry, isa::repeatLastPixel<C>(p));
+        }
+    } else {
+        // three vectors bring the channels back to the carry's order: with R
+        // = repeatLastPixel, the vectors' sums are R^k(carry) + u_k (u_0 the
+        // first prefix, u_k = R(u_(k-1)) + the k-th) and the next carry is
+        // carry + R(u_2), so the chain is one add per three vectors
+        for (; i + 3 * N <= n; i += 3 * N) {
+            const auto prefix = [&](std::int64_t at) {
+                return channelPrefix<C>(isa::sub(isa::loadU(lead + at), isa::loadU(trail + at)));
+            };
+            const V<int32_t> u0 = prefix(i), u1 = isa::add(isa::repeatLastPixel<C>(u0), prefix(i + N));
+            const V<int32_t> u2 = isa::add(isa::repeatLastPixel<C>(u1), prefix(i + 2 * N));
+            const V<int32_t> c1 = isa::repeatLastPixel<C>(carry), c2 = isa::repeatLastPixel<C>(c1);
+            isa::storeU(out + i, isa::add(carry, u0));
+            isa::storeU(out + i + N, isa::add(c1, u1));
+            isa::storeU(out + i + 2 * N, isa::add(c2, u2));
+            carry = isa::add(carry, isa::repeatLastPixel<C>(u2));
+        }
+        for (; i + N <= n; i += N) carry = isa::repeatLastPixel<C>(sums(i, carry));
+    }
     if (i < n) sums(n - N, isa::repeatLastPixel<C>(isa::loadU(out + n - 2 * N)));  // the same sums again, then the rest
 }
 
@@ -210,35 +237,35 @@ inline void rowSumsInt(const int32_t* col, int64_t kw, int64_t e0, int64_t n, in
     if (i < n) windowSumsInt<C>(col + e0 + i + (kw - 1) * C, col + e0 + i - C, out + i, n - i);
 }
 
-// The float order above: sums of elements [e0, e0 + n) of the row.
+// The float order above: sums of elements [e0, e0 + n) of the row (n at
+// most kChunk). The differences, then the four-term sums (lane by lane, so at
+// full width with the same bits), then the chains four elements at a time.
 template <int C>
 inline void rowSumsFloat(const float* col, int64_t kw, int64_t e0, int64_t n, float* out) {
-    const int64_t reach = (kw - 1) * C;
-    const auto d = [&](int64_t e) { return col[e + reach] - col[e - C]; };
-    const auto dv = [&](int64_t e) { return v128::sub(v128::loadU(col + e + reach), v128::loadU(col + e - C)); };
-    // one element by the rules (e >= 4C), and a 16-byte vector of four
-    const auto scalar = [&](int64_t e) {
-        out[e - e0] = out[e - e0 - 4 * C] + (((d(e - 3 * C) + d(e - 2 * C)) + d(e - C)) + d(e));
-    };
-    const auto vector = [&](int64_t e) {
-        const v128::Vec<float> s = v128::add(
-            v128::loadU(out + e - e0 - 4 * C),
-            v128::add(v128::add(v128::add(dv(e - 3 * C), dv(e - 2 * C)), dv(e - C)), dv(e)));
-        v128::storeU(out + e - e0, s);
-    };
+    constexpr int64_t L = int64_t(isa::kLanes<float>);
+    const int64_t reach = (kw - 1) * C, end = e0 + n;
+    float* const s = out - e0;  // s[e], e in [e0 - kPad, end)
     int64_t e = e0;
-    const int64_t end = e0 + n;
     if (e < C) {
         firstPixel<float, C>(col, kw, out);
         e = C;
     }
-    for (; e < end && e < 4 * C; ++e) out[e - e0] = out[e - e0 - C] + d(e);
-    if (end - e < 4) {
-        for (; e < end; ++e) scalar(e);
-        return;
-    }
-    for (; e + 4 <= end; e += 4) vector(e);
-    if (e < end) vector(end - 4);
+    for (; e < end && e < 4 * C; ++e) s[e] = s[e - C] + (col[e + reach] - col[e - C]);
+    if (e == end) return;
+    // d[i] for i in [e - 3C, end)
+    alignas(64) float dbuf[kChunk + 16];
+    float* const d = dbuf - (e - 3 * C);
+    int64_t i = e - 3 * C;
+    for (; i + L <= end; i += L) isa::storeU(d + i, isa::sub(isa::loadU(col + i + reach), isa::loadU(col + i - C)));
+    for (; i < end; ++i) d[i] = col[i + reach] - col[i - C];
+    // s[i] = the four-term sums, then s[i - 4C] + s[i] in order
+    for (i = e; i + L <= end; i += L)
+        isa::storeU(s + i, isa::add(isa::add(isa::add(isa::loadU(d + i - 3 * C), isa::loadU(d + i - 2 * C)),
+                                             isa::loadU(d + i - C)),
+                                    isa::loadU(d + i)));
+    for (; i < end; ++i) s[i] = ((d[i - 3 * C] + d[i - 2 * C]) + d[i - C]) + d[i];
+    for (i = e; i + 4 <= end; i += 4) v128::storeU(s + i, v128::add(v128::loadU(s + i - 4 * C), v128::loadU(s + i)));
+    for (; i < end; ++i) s[i] = s[i - 4 * C] + s[i];
 }
 
 // ---- finishes ----------------------------------------------------------------------------------------

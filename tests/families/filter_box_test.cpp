@@ -125,11 +125,12 @@ void runScene(const BoxCase<S, D>& c, const Scene& sc, const BorderCase& bc, std
 }
 
 // Single pixels, even and odd masks, masks as large as the ROI and larger,
-// one-row and one-column masks, rows longer than a chunk of window sums.
+// one-row and one-column masks, rows longer than a chunk of window sums and
+// (three or four channels) than a band of exact sums.
 const std::vector<Scene> kScenes = {
     {{1, 1}, {1, 1}},   {{5, 4}, {2, 2}},    {{37, 5}, {3, 3}},  {{70, 9}, {5, 4}},    {{131, 12}, {4, 5}},
     {{3, 17}, {7, 1}},  {{150, 3}, {1, 7}},  {{2, 3}, {5, 5}},   {{9, 6}, {9, 3}},     {{40, 20}, {31, 11}},
-    {{6, 5}, {2, 9}},   {{700, 3}, {4, 3}},  {{2100, 2}, {6, 3}}};
+    {{6, 5}, {2, 9}},   {{700, 3}, {4, 3}},  {{2100, 2}, {6, 3}}, {{1400, 3}, {9, 4}}};
 
 // Every scene with every border case (or, with full unset, one border case
 // per scene, taken in turn), out of place and, where the types match, in place.
