@@ -15,9 +15,9 @@
 // copied into the work buffer once and every neighbour is read from the
 // copy. Otherwise a bordered row is three spans: the source row the border
 // kind names (or a row of the constant), and its columns left and right of
-// the ROI, which come from one strip per side built by the border fill before
-// the first row (or from memory, where no side needs synthesis). Sides with
-// in-memory flags are read where they are.
+// the ROI, from memory where that side has its in-memory flag (or the mask
+// does not reach it), otherwise from a strip per side that the border fill
+// builds for every bordered row before the first output row.
 //
 // In place (source pointer equal to destination pointer): each source row is
 // copied to a ring of ay + 1 rows in the work buffer before its output row
@@ -203,12 +203,11 @@ inline void boxRows(const BoxJob& j, unsigned char* area, const BoxLayout& l, bo
     const border::Kind kind = border::kindOf(j.border);
     unsigned char* columns = area + l.columns;
 
-    // the side strips, for every bordered row, before anything is written
+    // the strips of the synthesised sides, for every bordered row, before
+    // anything is written
     unsigned char* strips = l.strips >= 0 ? area + l.strips : nullptr;
-    if (strips != nullptr) {
-        if (leftBytes > 0) j.k->fill(j, -k.left, -k.top, k.left, rows, strips, leftBytes);
-        if (rightBytes > 0) j.k->fill(j, W, -k.top, k.right, rows, strips + rows * leftBytes, rightBytes);
-    }
+    if (sides.left) j.k->fill(j, -k.left, -k.top, k.left, rows, strips, leftBytes);
+    if (sides.right) j.k->fill(j, W, -k.top, k.right, rows, strips + rows * leftBytes, rightBytes);
     unsigned char* constRow = l.constRow >= 0 ? area + l.constRow : nullptr;
     if (constRow != nullptr) j.k->fill(j, -k.left, sides.top ? -1 : H, W + kw - 1, 1, constRow, 0);
     unsigned char* ring = inPlace ? area + l.ring : nullptr;
@@ -228,10 +227,8 @@ inline void boxRows(const BoxJob& j, unsigned char* area, const BoxLayout& l, bo
             s.mid = inPlace && m >= 0 && m < written ? ring + (m % slots) * rowBytes : mem;
             s.left = mem - leftBytes, s.right = mem + rowBytes;
         }
-        if (strips != nullptr) {
-            s.left = strips + (q + k.top) * leftBytes;
-            s.right = strips + rows * leftBytes + (q + k.top) * rightBytes;
-        }
+        if (sides.left) s.left = strips + (q + k.top) * leftBytes;
+        if (sides.right) s.right = strips + rows * leftBytes + (q + k.top) * rightBytes;
         return s;
     };
     // the column sums of elements [a, b) of the bordered row take bordered
@@ -383,64 +380,57 @@ inline QvnStatus lineChecks(const void* pSrc, const void* pDst, RoiL roi, int ma
 
 inline constexpr std::int64_t kLineChunk = 1024;
 
-template <class S, class L>
-inline QvnStatus sumWindowRow(const S* pSrc, std::int64_t srcStep, Qvn32f* pDst, std::int64_t dstStep, RoiL roi,
-                              int mask, int anchor) {
+// The row sums (Rows) and the column sums.
+template <class S, class L, bool Rows>
+inline QvnStatus sumWindowLine(const S* pSrc, std::int64_t srcStep, Qvn32f* pDst, std::int64_t dstStep, RoiL roi,
+                               int mask, int anchor) {
     QVN_TRY(lineChecks(pSrc, pDst, roi, mask, anchor));
     if (roi.height < 1) return qvnOk;
     const RoundingScope nearest(qvnRndNear);
     constexpr std::int64_t C = L::kElems;
-    const std::int64_t n = roi.width * C, reach = (mask - 1) * C;
+    const std::int64_t n = roi.width * C;
     if (!sumsFitInt32<S>(mask)) {
-        lineSums64(pSrc, srcStep, pDst, dstStep, n, roi.height, mask, anchor, C, true);
+        lineSums64(pSrc, srcStep, pDst, dstStep, n, roi.height, mask, anchor, C, Rows);
         return qvnOk;
     }
-    alignas(64) std::int32_t lead[kLineChunk], trail[kLineChunk], chunk[boxk::kPad + kLineChunk];
-    std::int32_t* const sums = chunk + boxk::kPad;
-    for (std::int64_t y = 0; y < roi.height; ++y) {
-        const S* p = byteOffset(pSrc, y * srcStep) - std::int64_t(anchor) * C;  // the first pixel's window
-        Qvn32f* out = byteOffset(pDst, y * dstStep);
+    if constexpr (Rows) {
+        // each row's window sums from two widened streams, chunk by chunk
+        const std::int64_t reach = (mask - 1) * C;
+        alignas(64) std::int32_t lead[kLineChunk], trail[kLineChunk], chunk[boxk::kPad + kLineChunk];
+        std::int32_t* const sums = chunk + boxk::kPad;
+        for (std::int64_t y = 0; y < roi.height; ++y) {
+            const S* p = byteOffset(pSrc, y * srcStep) - std::int64_t(anchor) * C;  // the first pixel's window
+            Qvn32f* out = byteOffset(pDst, y * dstStep);
+            for (std::int64_t e0 = 0; e0 < n; e0 += kLineChunk) {
+                const std::int64_t m = std::min(kLineChunk, n - e0);
+                std::int64_t i = 0;
+                if (e0 == 0) {
+                    for (std::int64_t c = 0; c < C; ++c) {
+                        std::int64_t s = 0;
+                        for (std::int64_t t = 0; t < mask; ++t) s += p[c + t * C];
+                        sums[c] = std::int32_t(s);
+                    }
+                    i = C;
+                }
+                boxk::widenRow(p + e0 + i + reach, lead, m - i);
+                boxk::widenRow(p + e0 + i - C, trail, m - i);
+                boxk::windowSumsInt<int(C)>(lead, trail, sums + i, m - i);
+                boxk::finishRow<std::int32_t, Qvn32f, false, false>(sums, out + e0, m, 1.0f);
+                if (m == kLineChunk) std::memcpy(chunk, sums + m - boxk::kPad, sizeof(std::int32_t) * boxk::kPad);
+            }
+        }
+    } else {
+        // column sums of a band of elements, moved down the image
+        const auto row = [&](std::int64_t y) { return byteOffset(pSrc, y * srcStep); };
+        alignas(64) std::int32_t columns[kLineChunk];
         for (std::int64_t e0 = 0; e0 < n; e0 += kLineChunk) {
             const std::int64_t m = std::min(kLineChunk, n - e0);
-            std::int64_t i = 0;
-            if (e0 == 0) {
-                for (std::int64_t c = 0; c < C; ++c) {
-                    std::int64_t s = 0;
-                    for (std::int64_t t = 0; t < mask; ++t) s += p[c + t * C];
-                    sums[c] = std::int32_t(s);
-                }
-                i = C;
+            std::memset(columns, 0, sizeof columns);
+            for (std::int64_t t = 0; t < mask; ++t) boxk::addRow(columns, row(t - anchor) + e0, m);
+            for (std::int64_t y = 0; y < roi.height; ++y) {
+                if (y > 0) boxk::updateRow(columns, row(y - anchor + mask - 1) + e0, row(y - 1 - anchor) + e0, m);
+                boxk::finishRow<std::int32_t, Qvn32f, false, false>(columns, byteOffset(pDst, y * dstStep) + e0, m, 1.0f);
             }
-            boxk::widenRow(p + e0 + i + reach, lead, m - i);
-            boxk::widenRow(p + e0 + i - C, trail, m - i);
-            boxk::windowSumsInt<int(C)>(lead, trail, sums + i, m - i);
-            boxk::finishRow<std::int32_t, Qvn32f, false, false>(sums, out + e0, m, 1.0f);
-            if (m == kLineChunk) std::memcpy(chunk, sums + m - boxk::kPad, sizeof(std::int32_t) * boxk::kPad);
-        }
-    }
-    return qvnOk;
-}
-
-template <class S, class L>
-inline QvnStatus sumWindowColumn(const S* pSrc, std::int64_t srcStep, Qvn32f* pDst, std::int64_t dstStep, RoiL roi,
-                                 int mask, int anchor) {
-    QVN_TRY(lineChecks(pSrc, pDst, roi, mask, anchor));
-    if (roi.height < 1) return qvnOk;
-    const RoundingScope nearest(qvnRndNear);
-    const std::int64_t n = roi.width * L::kElems;
-    if (!sumsFitInt32<S>(mask)) {
-        lineSums64(pSrc, srcStep, pDst, dstStep, n, roi.height, mask, anchor, L::kElems, false);
-        return qvnOk;
-    }
-    const auto row = [&](std::int64_t y) { return byteOffset(pSrc, y * srcStep); };
-    alignas(64) std::int32_t columns[kLineChunk];
-    for (std::int64_t e0 = 0; e0 < n; e0 += kLineChunk) {
-        const std::int64_t m = std::min(kLineChunk, n - e0);
-        std::memset(columns, 0, sizeof columns);
-        for (std::int64_t t = 0; t < mask; ++t) boxk::addRow(columns, row(t - anchor) + e0, m);
-        for (std::int64_t y = 0; y < roi.height; ++y) {
-            if (y > 0) boxk::updateRow(columns, row(y - anchor + mask - 1) + e0, row(y - 1 - anchor) + e0, m);
-            boxk::finishRow<std::int32_t, Qvn32f, false, false>(columns, byteOffset(pDst, y * dstStep) + e0, m, 1.0f);
         }
     }
     return qvnOk;
