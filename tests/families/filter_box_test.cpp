@@ -129,7 +129,7 @@ void runScene(const BoxCase<S, D>& c, const Scene& sc, const BorderCase& bc, std
 // (three or four channels) than a band of exact sums.
 const std::vector<Scene> kScenes = {
     {{1, 1}, {1, 1}},   {{5, 4}, {2, 2}},    {{37, 5}, {3, 3}},  {{70, 9}, {5, 4}},    {{131, 12}, {4, 5}},
-    {{3, 17}, {7, 1}},  {{150, 3}, {1, 7}},  {{2, 3}, {5, 5}},   {{9, 6}, {9, 3}},     {{40, 20}, {31, 11}},
+    {{3, 17}, {7, 1}},  {{150, 3}, {1, 7}},  {{2, 3}, {5, 5}},   {{9, 6}, {9, 3}},     {{33, 12}, {31, 11}},
     {{6, 5}, {2, 9}},   {{700, 3}, {4, 3}},  {{2100, 2}, {6, 3}}, {{1400, 3}, {9, 4}}};
 
 // Every scene with every border case (or, with full unset, one border case
@@ -154,17 +154,17 @@ void sweep(const BoxCase<S, D>& c, bool full) {
 
 TEST(FilterBox, MeansAreExactForEveryBorderAndMask) {
     QVN_BOX(8u, C1, 1, true);
-    QVN_BOX(8u, C3, 3, true);
+    QVN_BOX(8u, C3, 3, false);
     QVN_BOX(8u, C4, 4, false);
     QVN_BOX(8u, AC4, 4, false);
     QVN_BOX(16u, C1, 1, false);
     QVN_BOX(16u, C3, 3, false);
     QVN_BOX(16u, AC4, 4, false);
-    QVN_BOX(16s, C1, 1, true);
+    QVN_BOX(16s, C1, 1, false);
     QVN_BOX(16s, C4, 4, false);
     QVN_BOX(16s, AC4, 4, false);
-    QVN_BOX(32f, C1, 1, true);
-    QVN_BOX(32f, C3, 3, false);
+    QVN_BOX(32f, C1, 1, false);
+    QVN_BOX(32f, C3, 3, true);
     QVN_BOX(32f, C4, 4, false);
     QVN_BOX(32f, AC4, 4, false);
 }
