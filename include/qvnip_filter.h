@@ -8,6 +8,119 @@
 QVN_BEGIN_DECLS
 
 
+/* The work-buffer bytes of the box filter and the window sums (one query
+ * under two names) for a ROI of roiSize, a mask of maskSize, images of
+ * dataType (qvn8u, qvn16u, qvn16s or qvn32f) with numChannels channels (1, 3
+ * or 4; AC4 images count 4). The buffer serves every call with that ROI and
+ * mask, in place or not.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a mask width or height below 1 (qvnErrMaskSize); a
+ * data type other than 8u, 16u, 16s, 32f (qvnErrDataType); a channel count
+ * other than 1, 3, 4 (qvnErrChannelCount); a buffer size above 2^31 - 1
+ * (qvnErrSizeOverflow, nothing written). */
+QVN_API QvnStatus qvniFilterBoxBorderGetBufferSize(QvnRoiSize roiSize, QvnRoiSize maskSize, QvnDataType dataType, int numChannels, int* pBufferSize);
+QVN_API QvnStatus qvniSumWindowGetBufferSize(QvnRoiSize roiSize, QvnRoiSize maskSize, QvnDataType dataType, int numChannels, int* pBufferSize);
+
+/* The mean of the maskSize.width x maskSize.height pixels around each pixel,
+ * anchored at ((width - 1) / 2, (height - 1) / 2), so that an even mask reaches
+ * one pixel further right (down) than left (up). Integer images: floor(sum *
+ * (1.0f / (width * height)) + 0.5), in single precision, saturated; the sum is
+ * exact while it fits 31 bits (a mask area of at most 8421504 for 8u, 32768 for
+ * 16u, 65535 for 16s) and beyond that a float running sum, like every 32f sum
+ * (a fixed order of additions, the same bits on every target). 32f images: the
+ * float sum times that reciprocal. Neighbours beyond the ROI follow border as
+ * in the general filter (qvnBorderReplicate, qvnBorderMirror or
+ * qvnBorderConstant with one value per channel at pBorderValue, in-memory flags
+ * free, or qvnBorderInMem). pSrc may equal pDst (in place, same step). pBuffer
+ * holds the bytes the size query reports; each concurrent call needs its own.
+ * The cost per pixel does not depend on the mask. AC4 leaves alpha as it was.
+ * Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a step
+ * below 1 (qvnErrStep); a width or height below 1 (qvnErrSize); a mask width
+ * or height below 1 (qvnErrMaskSize); a border kind the function does not
+ * accept (qvnErrBorderKind); a null pBorderValue with the constant border kind
+ * (qvnErrNullPointer). */
+QVN_API QvnStatus qvniFilterBoxBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterBoxBorder_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+
+/* The sum of the same window, in a wider type: exact for 8u (to 32s; beyond
+ * 2^31 - 1, a saturated float sum) and for 16u and 16s (rounded to float once)
+ * in the ranges above; 32f sums are float running sums in a fixed order.
+ * Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a step
+ * below 1 (qvnErrStep); a width or height below 1 (qvnErrSize); a mask width
+ * or height below 1 (qvnErrMaskSize); a border kind the function does not
+ * accept (qvnErrBorderKind); a null pBorderValue with the constant border kind
+ * (qvnErrNullPointer). */
+QVN_API QvnStatus qvniSumWindow_8u32s_C1R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_8u32s_C3R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_8u32s_C4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_8u32s_AC4R(const Qvn8u* pSrc, int srcStep, Qvn32s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16u32f_C1R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16u32f_C3R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16u32f_C4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16u32f_AC4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16s32f_C1R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16s32f_C3R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16s32f_C4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_16s32f_AC4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniSumWindow_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f* pBorderValue, Qvn8u* pBuffer);
+
+/* One-dimensional window sums, every neighbour read from memory:
+ * dst(x, y) = sum over k < maskSize of src(x - anchor + k, y) (Row) or of
+ * src(x, y - anchor + k) (Column), per channel, exact and rounded to float
+ * once. The caller provides anchor pixels before and maskSize - 1 - anchor
+ * after each row (rows above and below) at srcStep.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width below 1
+ * (qvnErrSize); a maskSize below 1 (qvnErrMaskSize); an anchor outside
+ * 0..maskSize - 1, compared unsigned (qvnErrAnchor); a height below 1 is no
+ * error: nothing is written. Steps are not checked: a negative step walks the
+ * rows upward, 0 repeats one row, a step shorter than a row overlaps rows
+ * ("steps" in qvnip_types.h). */
+QVN_API QvnStatus qvniSumWindowRow_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_8u32f_C3R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_8u32f_C4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16u32f_C1R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16u32f_C3R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16u32f_C4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16s32f_C1R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16s32f_C3R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowRow_16s32f_C4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_8u32f_C1R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_8u32f_C3R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_8u32f_C4R(const Qvn8u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16u32f_C1R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16u32f_C3R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16u32f_C4R(const Qvn16u* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16s32f_C1R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16s32f_C3R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+QVN_API QvnStatus qvniSumWindowColumn_16s32f_C4R(const Qvn16s* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize dstRoiSize, int maskSize, int anchor);
+
+/* The older mean, without border synthesis: dst(x, y) = (sum over j <
+ * maskSize.height, i < maskSize.width of src(x - anchor.x + i, y - anchor.y +
+ * j)) / (width * height) in double precision, every neighbour read from memory
+ * around the source ROI (the caller provides it). Mask dimensions below 1 are
+ * qvnErrSize here.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a source step below (maskSize.width + width - 1) x 8
+ * or a destination step below width x 8 (qvnErrStep). */
+QVN_API QvnStatus qvniFilterBox_64f_C1R(const Qvn64f* pSrc, int srcStep, Qvn64f* pDst, int dstStep, QvnRoiSize dstRoiSize, QvnRoiSize maskSize, QvnPoint anchor);
+
 /* The general filter in three calls. qvniFilterBorderGetSize reports the
  * bytes of the spec and of the work buffer for a kernel of kernelSize over a
  * ROI of roiSize: dataType is the image type (qvn8u, qvn16u, qvn16s or qvn32f

@@ -255,7 +255,7 @@ CHECK_WORDS = {
 # order goes on past them.
 PASSIVE_CHECKS = {"bvalue"}
 # Family step checks that a step of 0 or -1 fails like "step".
-STEP_CHECKS = {"dstrow", "rowsteps"}
+STEP_CHECKS = {"dstrow", "rowsteps", "boxsteps"}
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")
 

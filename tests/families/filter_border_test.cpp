@@ -19,6 +19,7 @@
 #include "qvnip.h"
 #include "ref/filter_ref.h"
 #include "filter/general-inl.h"
+#include "support/bordered.h"
 #include "support/cache_double.h"
 #include "support/sweep.h"
 
@@ -61,25 +62,7 @@ Kernel floatKernel(int kw, int kh, std::uint32_t seed, bool rank1 = false) {
     return k;
 }
 
-struct BorderCase {
-    int border;
-    ref::Bordered model;
-};
-const std::vector<BorderCase> kBorders = {
-    {qvnBorderReplicate, {ref::Border::kReplicate}},
-    {qvnBorderMirror, {ref::Border::kMirror}},
-    {qvnBorderConstant, {ref::Border::kConst}},
-    {qvnBorderReplicate | qvnBorderInMemTop | qvnBorderInMemLeft, {ref::Border::kReplicate, true, false, true, false}},
-    {qvnBorderMirror | qvnBorderInMemBottom | qvnBorderInMemRight, {ref::Border::kMirror, false, true, false, true}},
-    {qvnBorderConstant | qvnBorderInMemTop | qvnBorderInMemRight, {ref::Border::kConst, true, false, false, true}},
-    {qvnBorderInMem, {ref::Border::kReplicate, true, true, true, true}},
-    {qvnBorderMirror | qvnBorderInMemLeft, {ref::Border::kMirror, false, false, true, false}},
-};
-
-// A guarded byte area of n bytes (spec or work buffer) ending at a page.
-std::unique_ptr<GuardedImage<Qvn8u>> area(int n, std::uint32_t seed) {
-    return std::make_unique<GuardedImage<Qvn8u>>(Layout{n, 1, 1, 0, true, seed});
-}
+const std::vector<BorderCase>& kBorders = borderCases();
 
 struct Built {
     std::unique_ptr<GuardedImage<Qvn8u>> spec, buffer;
@@ -91,7 +74,7 @@ Built build(const Kernel& k, bool integer, int dataType, int C, QvnRoiSize roi, 
     int specSize = 0, bufSize = 0;
     const int ktype = dataType == qvn64f ? qvn64f : integer ? qvn16s : qvn32f;
     EXPECT_EQ(qvniFilterBorderGetSize({k.kw, k.kh}, roi, dataType, ktype, C, &specSize, &bufSize), qvnOk);
-    Built b{area(specSize, seed), area(bufSize, seed + 1)};
+    Built b{guardedBytes(specSize, seed), guardedBytes(bufSize, seed + 1)};
     auto* s = reinterpret_cast<QvnFilterBorderSpec*>(b.spec->data());
     QvnStatus st;
     if (dataType == qvn64f) {
@@ -107,12 +90,6 @@ Built build(const Kernel& k, bool integer, int dataType, int C, QvnRoiSize roi, 
     b.spec->expectUntouchedOutsideRoi();
     b.spec->snapshot();
     return b;
-}
-
-template <class T>
-T randomPixel(std::mt19937& rng) {
-    if constexpr (std::is_floating_point_v<T>) return T(int(rng() % 16001) - 8000) / T(8);
-    else return T(rng());
 }
 
 // The source (with room on the in-memory sides), the destination, the call

@@ -671,6 +671,24 @@ template <class T>
 inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
 
+// ---- box filter and window sums (filter family) --------------------------------------------
+// 32-bit lanes moved up by K lanes: lane i takes lane i - K, the lowest K
+// lanes take 0 (a step of a prefix sum).
+template <int K, class T>
+inline Vec<T> shiftLanesUp(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && K >= 0 && K < 4, "32-bit lanes, a shift within the vector");
+    return fromBits<T>(_mm_slli_si128(bits(a), 4 * K));
+}
+// The last C 32-bit lanes repeated over the vector: lane i takes lane
+// N - C + i % C (N lanes); with C channels per pixel, the last pixel's
+// channels in the lanes of their channels' continuation.
+template <int C, class T>
+inline Vec<T> repeatLastPixel(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && C >= 1 && C <= 4, "32-bit lanes, 1 to 4 channels");
+    constexpr int l0 = 4 - C, l1 = 4 - C + 1 % C, l2 = 4 - C + 2 % C, l3 = 4 - C + 3 % C;
+    return fromBits<T>(_mm_shuffle_epi32(bits(a), (l3 << 6) | (l2 << 4) | (l1 << 2) | l0));
+}
+
 }  // namespace v128
 QVN_TARGET_END
 

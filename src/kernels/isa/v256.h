@@ -532,6 +532,29 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm256_packs_epi32(lo.v, hi.v)}; }
 
+// ---- box filter and window sums (filter family) --------------------------------------------
+// 32-bit lanes moved up by K lanes across the whole vector (see v128).
+template <int K, class T>
+inline Vec<T> shiftLanesUp(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && K >= 0 && K < 8, "32-bit lanes, a shift within the vector");
+    if constexpr (K == 0) {
+        return a;
+    } else {
+        const __m256i idx = _mm256_setr_epi32((0 - K) & 7, (1 - K) & 7, (2 - K) & 7, (3 - K) & 7, (4 - K) & 7,
+                                              (5 - K) & 7, (6 - K) & 7, (7 - K) & 7);
+        const __m256i moved = _mm256_permutevar8x32_epi32(bits(a), idx);
+        return fromBits<T>(_mm256_blend_epi32(_mm256_setzero_si256(), moved, (0xFF << K) & 0xFF));
+    }
+}
+// The last C 32-bit lanes repeated over the vector (see v128).
+template <int C, class T>
+inline Vec<T> repeatLastPixel(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && C >= 1 && C <= 4, "32-bit lanes, 1 to 4 channels");
+    const __m256i idx = _mm256_setr_epi32(8 - C, 8 - C + 1 % C, 8 - C + 2 % C, 8 - C + 3 % C, 8 - C + 4 % C,
+                                          8 - C + 5 % C, 8 - C + 6 % C, 8 - C + 7 % C);
+    return fromBits<T>(_mm256_permutevar8x32_epi32(bits(a), idx));
+}
+
 }  // namespace v256
 QVN_TARGET_END
 

@@ -588,6 +588,25 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm512_packs_epi32(lo.v, hi.v)}; }
 
+// ---- box filter and window sums (filter family) --------------------------------------------
+// 32-bit lanes moved up by K lanes across the whole vector (see v128).
+template <int K, class T>
+inline Vec<T> shiftLanesUp(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && K >= 0 && K < 16, "32-bit lanes, a shift within the vector");
+    if constexpr (K == 0) return a;
+    else return fromBits<T>(_mm512_alignr_epi32(bits(a), _mm512_setzero_si512(), 16 - K));
+}
+// The last C 32-bit lanes repeated over the vector (see v128).
+template <int C, class T>
+inline Vec<T> repeatLastPixel(Vec<T> a) {
+    static_assert(sizeof(T) == 4 && C >= 1 && C <= 4, "32-bit lanes, 1 to 4 channels");
+    const __m512i idx = _mm512_setr_epi32(16 - C, 16 - C + 1 % C, 16 - C + 2 % C, 16 - C + 3 % C, 16 - C + 4 % C,
+                                          16 - C + 5 % C, 16 - C + 6 % C, 16 - C + 7 % C, 16 - C + 8 % C,
+                                          16 - C + 9 % C, 16 - C + 10 % C, 16 - C + 11 % C, 16 - C + 12 % C,
+                                          16 - C + 13 % C, 16 - C + 14 % C, 16 - C + 15 % C);
+    return fromBits<T>(_mm512_permutexvar_epi32(idx, bits(a)));
+}
+
 }  // namespace v512
 QVN_TARGET_END
 
