@@ -253,6 +253,19 @@ CHECK_WORDS = {
     "convsize": ("an algType whose low byte is above 2 (qvnErrAlgorithm); a channel count other than 1, 3, 4 "
                  "(qvnErrChannelCount); bits 16 to 23 of algType neither 0 nor 1 (qvnErrAlgorithm); a data type "
                  "other than 8u, 16s, 32f (qvnErrDataType); a buffer size above 2^31 - 1 (qvnErrSizeOverflow)"),
+    "oddmask": "a mask side below 1 or even (qvnErrMaskSize)",
+    "mask": "a mask side below 1 (qvnErrMaskSize)",
+    "stepmul": "an odd srcStep or dstStep, not a whole number of elements (qvnErrStepMultiple)",
+    "medborder": ("a border kind other than qvnBorderInMem, or qvnBorderReplicate or qvnBorderConstant with any "
+                  "in-memory flags (qvnErrBorderKind)"),
+    "bvalues": "a null borderValue with the constant border kind (qvnErrNullPointer)",
+    "medsize": ("a mask side below 1 or even (qvnErrMaskSize); with 3 or 4 channels a data type other than 8u, "
+                "16u, 16s (qvnErrDataType), otherwise a channel count other than 1 (qvnErrChannelCount) or a data "
+                "type other than 8u, 16u, 16s, 32f (qvnErrDataType); a size of 2^31 bytes or more "
+                "(qvnErrSizeOverflow, 0 written)"),
+    "extsize": ("a mask side below 1 (qvnErrMaskSize); a data type other than 8u, 16u, 16s, 32f (qvnErrDataType); "
+                "a channel count other than 1, 3, 4 (qvnErrChannelCount); a size of 2^31 bytes or more "
+                "(qvnErrSizeOverflow, 0 written)"),
     "setmode": ("a spec that no initialiser of the family built (qvnErrBadSpec); a nonzero offset for a 16s, 32f "
                 "or 64f spec (qvnErrBadMode)"),
 }

@@ -612,6 +612,10 @@ template <class T>
 inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
 
+// ---- rank filters (filter family) ------------------------------------------------------------
+// The sum of each group of eight bytes, in the 64-bit lane the group occupies.
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a.v, _mm_setzero_si128())}; }
+
 }  // namespace v128
 QVN_TARGET_END
 

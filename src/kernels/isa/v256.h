@@ -506,6 +506,10 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm256_packs_epi32(lo.v, hi.v)}; }
 
+// ---- rank filters (filter family) ------------------------------------------------------------
+// The sum of each group of eight bytes, in the 64-bit lane the group occupies.
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm256_sad_epu8(a.v, _mm256_setzero_si256())}; }
+
 }  // namespace v256
 QVN_TARGET_END
 
