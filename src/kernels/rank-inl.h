@@ -281,6 +281,28 @@ constexpr BelowMask<Cnt> belowMask() {
 template <class Cnt>
 inline constexpr BelowMask<Cnt> kBelow = belowMask<Cnt>();
 
+// Of the running sums of 16 counts, how many are at most limit (0 <= limit
+// < 65536), with the running sums written to sums: prefix sums within two
+// 16-byte vectors, the first's total carried into the second, one unsigned
+// compare.
+inline int32_t countAtMost(const std::uint16_t* counts, int32_t limit, std::uint16_t* sums) {
+    using H = v128::Vec<std::uint16_t>;
+    const auto prefix = [](H a) {
+        a = v128::add(a, v128::bytesLeft<2>(a));
+        a = v128::add(a, v128::bytesLeft<4>(a));
+        return v128::add(a, v128::bytesLeft<8>(a));
+    };
+    const H lo = prefix(v128::loadU(counts));
+    v128::storeU(sums, lo);
+    const H hi = v128::add(prefix(v128::loadU(counts + 8)), v128::set1(sums[7]));
+    v128::storeU(sums + 8, hi);
+    // unsigned 16-bit compare through the signed one, both sides biased
+    const v128::Vec<std::int16_t> bias = v128::set1(std::int16_t(-32768)), top = v128::set1(std::int16_t(limit - 32768));
+    const auto above = [&](H v) { return v128::cmpGt(v128::bitXor(v128::cast<std::int16_t>(v), bias), top); };
+    const int mask = v128::moveMask8(above(lo)) | v128::moveMask8(above(hi)) << 16;
+    return 16 - __builtin_popcount(unsigned(mask)) / 2;
+}
+
 // Bytes of histogram per window column.
 template <class Cnt>
 inline constexpr int64_t kHistBytes = 256 * int64_t(sizeof(Cnt));
@@ -308,13 +330,23 @@ struct HistKernel {
         for (int64_t e0 = 0; e0 < w; e0 += s) stripe(src + e0, sstep, dst + e0, dstep, std::min(s, w - e0), h);
     }
 
+    // 16-bit counters also keep coarse column histograms (16 bins of 16
+    // values), on the stack, for stripes of up to kCoarseColumns columns.
+    static constexpr int64_t kCoarseColumns = 768;
+    using Coarse = std::uint16_t[16];
+
     void stripe(const Qvn8u* src, int64_t sstep, Qvn8u* dst, int64_t dstep, int64_t s, int64_t h) const {
         const int64_t ncols = s + (kw - 1) * stride;
         Cnt* const H = columns;
+        alignas(64) Coarse coarseArea[sizeof(Cnt) == 2 ? kCoarseColumns : 1];
+        Coarse* const coarse = sizeof(Cnt) == 2 && ncols <= kCoarseColumns ? coarseArea : nullptr;
         std::memset(H, 0, std::size_t(ncols * kHistBytes<Cnt>));
+        if (coarse) std::memset(coarseArea, 0, std::size_t(ncols) * sizeof(Coarse));
         for (int j = 0; j < kh; ++j) {
             const Qvn8u* r = rowAt(src, sstep, j);
             for (int64_t c = 0; c < ncols; ++c) ++H[c * 256 + r[c]];
+            if (coarse)
+                for (int64_t c = 0; c < ncols; ++c) ++coarse[c][r[c] >> 4];
         }
         int32_t m[4] = {0, 0, 0, 0};  // each channel's median at the start of the previous row
         for (int64_t y = 0; y < h; ++y) {
@@ -322,24 +354,121 @@ struct HistKernel {
                 const Qvn8u* gone = rowAt(src, sstep, y - 1);
                 const Qvn8u* come = rowAt(src, sstep, y + kh - 1);
                 for (int64_t c = 0; c < ncols; ++c) --H[c * 256 + gone[c]], ++H[c * 256 + come[c]];
+                if (coarse)
+                    for (int64_t c = 0; c < ncols; ++c) --coarse[c][gone[c] >> 4], ++coarse[c][come[c] >> 4];
             }
             Qvn8u* out = byteOffset(dst, y * dstep);
             for (int64_t ch = 0; ch < stride && ch < s; ++ch)
-                if (!output.skips(ch)) sweep(out, s, ch, m[ch]);
+                if (!output.skips(ch)) sweep(out, s, ch, m[ch], coarse);
         }
     }
 
-    // The medians of one channel along the stripe's row.
-    void sweep(Qvn8u* out, int64_t s, int64_t ch, int32_t& m0) const {
+    // The medians of one channel along the stripe's row. The window's
+    // histogram stays in registers: each step adds the entering column and
+    // subtracts the leaving one.
+    void sweep(Qvn8u* out, int64_t s, int64_t ch, int32_t& m0, const Coarse* coarse) const {
         const Cnt* const H = columns;
         const int64_t step = stride, extra = (kw - 1) * stride;
         const int32_t rank = int32_t((int64_t(kw) * kh - 1) / 2);  // values below the median, at most
         alignas(64) Cnt k[256];
-        for (int v = 0; v < NV; ++v) {
-            V<Cnt> acc = isa::loadA(H + ch * 256 + v * L);
-            for (int i = 1; i < kw; ++i) acc = isa::add(acc, isa::loadA(H + (ch + i * step) * 256 + v * L));
-            isa::storeA(k + v * L, acc);
+        V<Cnt> kv[NV];
+        for (int v = 0; v < NV && !coarse; ++v) {
+            kv[v] = isa::loadA(H + ch * 256 + v * L);
+            for (int i = 1; i < kw; ++i) kv[v] = isa::add(kv[v], isa::loadA(H + (ch + i * step) * 256 + v * L));
+            isa::storeA(k + v * L, kv[v]);
         }
+        if (coarse) {
+            // The window's coarse histogram, updated at every step, gives the
+            // median's group; that group's 16 fine counts are kept per group
+            // and brought up to the current step only when the group is used
+            // (from scratch when it is a mask width or more behind).
+            alignas(16) std::uint16_t kc[16];
+            for (int g = 0; g < 16; ++g) {
+                kc[g] = 0;
+                for (int i = 0; i < kw; ++i) kc[g] = std::uint16_t(kc[g] + coarse[ch + i * step][g]);
+            }
+            alignas(64) std::uint16_t fine[16][16];
+            int64_t at[16];  // the step each group's fine counts are for
+            for (int64_t& a : at) a = -int64_t(kw) - 1;
+            for (int64_t e = ch, x = 0; e < s; e += step, ++x) {
+                if (x > 0) {
+                    const std::uint16_t* cin = coarse[e + extra];
+                    const std::uint16_t* cgone = coarse[e - step];
+                    for (int g = 0; g < 16; ++g) kc[g] = std::uint16_t(kc[g] + cin[g] - cgone[g]);
+                }
+                alignas(16) std::uint16_t sums[16];
+                const int32_t group = countAtMost(kc, rank, sums);
+                const int32_t before = group > 0 ? sums[group - 1] : 0;
+                std::uint16_t* f = fine[group];
+                if (x - at[group] >= kw) {
+                    for (int b = 0; b < 16; ++b) f[b] = 0;
+                    for (int i = 0; i < kw; ++i) {
+                        const Cnt* c = H + (e + i * step) * 256 + group * 16;
+                        for (int b = 0; b < 16; ++b) f[b] = std::uint16_t(f[b] + c[b]);
+                    }
+                } else {
+                    for (int64_t t = at[group] + 1; t <= x; ++t) {
+                        const Cnt* cin = H + (ch + t * step + extra) * 256 + group * 16;
+                        const Cnt* cgone = H + (ch + (t - 1) * step) * 256 + group * 16;
+                        for (int b = 0; b < 16; ++b) f[b] = std::uint16_t(f[b] + cin[b] - cgone[b]);
+                    }
+                }
+                at[group] = x;
+                out[e] = Qvn8u(group * 16 + countAtMost(f, rank - before, sums));
+            }
+            (void)m0;
+        } else if constexpr (sizeof(Cnt) < 4) {
+            for (int64_t e = ch; e < s; e += step) {
+                if (e > ch) {
+                    const Cnt* in = H + (e + extra) * 256;
+                    const Cnt* gone = H + (e - step) * 256;
+                    for (int v = 0; v < NV; ++v) {
+                        kv[v] = isa::add(kv[v], isa::sub(isa::loadA(in + v * L), isa::loadA(gone + v * L)));
+                        isa::storeA(k + v * L, kv[v]);
+                    }
+                }
+                out[e] = Qvn8u(search(kv, k, rank));
+            }
+            (void)m0;
+        } else {
+            walkAlong(out, s, ch, m0, kv, k, rank);
+        }
+    }
+
+    // The median bin of the window's histogram (kv, also stored at k), from
+    // scratch: sums of 16-bin groups, the first group whose running sum
+    // passes rank, then the bin inside it. No branch depends on the data and
+    // nothing on the previous pixel's median, so consecutive pixels overlap.
+    static int32_t search(const V<Cnt>* kv, const Cnt* k, int32_t rank) {
+        constexpr int64_t P = int64_t(isa::kLanes<std::uint64_t>);
+        constexpr int kPer = sizeof(Cnt) == 1 ? 2 : 4;  // 64-bit sums (of 8 or 4 bins) per group of 16
+        alignas(64) std::uint64_t part[64];
+        for (int v = 0; v < NV; ++v) {
+            if constexpr (sizeof(Cnt) == 1) {
+                isa::storeA(part + v * P, isa::sumBytes(kv[v]));
+            } else {
+                const V<std::uint64_t> low = isa::sumBytes(isa::cast<std::uint8_t>(isa::bitAnd(kv[v], isa::set1<Cnt>(Cnt(0xFF)))));
+                const V<std::uint64_t> high = isa::sumBytes(isa::cast<std::uint8_t>(isa::shiftRight<8>(kv[v])));
+                isa::storeA(part + v * P, isa::add(low, isa::shiftLeft<8>(high)));
+            }
+        }
+        alignas(16) std::uint16_t groups[16], sums[16], fine[16];
+        for (int g = 0; g < 16; ++g) {
+            std::uint64_t t = 0;
+            for (int q = 0; q < kPer; ++q) t += part[g * kPer + q];
+            groups[g] = std::uint16_t(t);
+        }
+        const int32_t group = countAtMost(groups, rank, sums);
+        const int32_t before = group > 0 ? sums[group - 1] : 0;
+        for (int b = 0; b < 16; ++b) fine[b] = k[group * 16 + b];
+        return group * 16 + countAtMost(fine, rank - before, sums);
+    }
+
+    // 32-bit counters (masks from 257): the median walked from its previous
+    // position, the count of values below it kept by the vector pass.
+    void walkAlong(Qvn8u* out, int64_t s, int64_t ch, int32_t& m0, V<Cnt>* kv, Cnt* k, int32_t rank) const {
+        const Cnt* const H = columns;
+        const int64_t step = stride, extra = (kw - 1) * stride;
         int32_t m = m0, below = 0;
         for (int32_t v = 0; v < m; ++v) below += int32_t(k[v]);
         const auto walk = [&] {
@@ -355,7 +484,8 @@ struct HistKernel {
             V<Cnt> delta = isa::zero<Cnt>();
             for (int v = 0; v < NV; ++v) {
                 const V<Cnt> d = isa::sub(isa::loadA(in + v * L), isa::loadA(gone + v * L));
-                isa::storeA(k + v * L, isa::add(isa::loadA(k + v * L), d));
+                kv[v] = isa::add(kv[v], d);
+                isa::storeA(k + v * L, kv[v]);
                 const int64_t lanesBelow = std::clamp<int64_t>(m - v * L, 0, L);
                 delta = isa::add(delta, isa::bitAnd(d, isa::loadU(kBelow<Cnt>.v + 64 - lanesBelow)));
             }

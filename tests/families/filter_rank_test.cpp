@@ -181,6 +181,9 @@ TEST(FilterRank, MedianWithThirtyTwoBitCounters) {
     const RankCase<Qvn8u> c{"8u C1", Rank::kMedian, 1, false, QVN_RANK1(qvniFilterMedianBorder_8u_C1R)};
     scene(c, {40, 3}, {257, 1}, kReplicate, false, 5);
     scene(c, {300, 2}, {1, 257}, kBorders[1], true, 6);
+    // 16-bit counters over stripes too wide for the coarse counts
+    scene(RankCase<Qvn8u>{"8u C4", Rank::kMedian, 4, false, qvniFilterMedianBorder_8u_C4R}, {30, 4}, {201, 3},
+          kReplicate, false, 7);
 }
 
 #define QVN_EXTREMA_CASES(T, tok, Op, rank)                                                   \
