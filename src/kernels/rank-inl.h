@@ -497,12 +497,27 @@ struct HistKernel {
 };
 
 // ---- minimum and maximum ---------------------------------------------------------------------
+// The vector layers a kernel may run a loop on: isa, or isa_offset for
+// loops whose loads sit a few elements off the vector alignment.
+template <bool Offset>
+struct Layer {
+    template <class T>
+    static constexpr int64_t kLanes = int64_t(Offset ? isa_offset::kLanes<T> : isa::kLanes<T>);
+    template <class T>
+    static auto load(const T* p) {
+        if constexpr (Offset) return isa_offset::loadU(p);
+        else return isa::loadU(p);
+    }
+};
+
 template <class T, bool Max>
 struct Extreme {
-    static V<T> of(V<T> a, V<T> b) {
+    // Any layer's vectors (the layer's functions found by argument).
+    template <class W, class = std::enable_if_t<!std::is_arithmetic_v<W>>>
+    static W of(W a, W b) {
         if constexpr (std::is_same_v<T, float>)  // either operand NaN: a NaN
-            return Max ? isa::bitOr(isa::max(a, b), isa::max(b, a)) : isa::bitOr(isa::min(a, b), isa::min(b, a));
-        else return Max ? isa::max(a, b) : isa::min(a, b);
+            return Max ? bitOr(max(a, b), max(b, a)) : bitOr(min(a, b), min(b, a));
+        else return Max ? max(a, b) : min(a, b);
     }
     static T of(T a, T b) {
         if constexpr (std::is_same_v<T, float>) {
@@ -531,7 +546,7 @@ inline int64_t extremaRow(int64_t kw, int64_t width, int64_t C, int64_t elemByte
     return std::min(width, kExtremaChunkBytes / elemBytes) + (kw - 1) * C;
 }
 inline int64_t extremaScratch(int64_t kw, int64_t kh, int64_t width, int64_t C, int64_t elemBytes) {
-    const int64_t rows = 1 + (kw > kDirectColumns ? 2 : 0) + (kh > kDirectRows ? kh + 1 : 0);
+    const int64_t rows = 1 + (kw > kDirectColumns ? 2 : 0) + (kh > kDirectRows ? kh + 1 : 1);
     return rows * extremaRow(kw, width, C, elemBytes);
 }
 
@@ -569,25 +584,33 @@ struct ExtremaKernel {
                   [&](int64_t e) { d[e] = X::of(a[e], b[e]); });
     }
 
-    // Rows combined one by one into the column row, then the row pass.
+    // Rows combined directly, two output rows at a time (they share kh - 1
+    // rows), into two column rows; then the row pass.
     void direct(const T* src, int64_t sstep, T* dst, int64_t dstep, int64_t cw, int64_t h) const {
         const int64_t n = cw + (kw - 1) * stride;
-        for (int64_t y = 0; y < h; ++y) {
-            const T* v = rowAt(src, sstep, y);
-            if (kh > 1) {
-                T* r = vrow();
-                forBlocks(n, L, [&](int64_t e) {
-                    V<T> acc = isa::loadU(v + e);
-                    for (int j = 1; j < kh; ++j) acc = X::of(acc, isa::loadU(rowAt(src, sstep, y + j) + e));
-                    isa::storeU(r + e, acc);
-                }, [&](int64_t e) {
-                    T acc = v[e];
-                    for (int j = 1; j < kh; ++j) acc = X::of(acc, rowAt(src, sstep, y + j)[e]);
-                    r[e] = acc;
-                });
-                v = r;
+        for (int64_t y = 0; y < h; y += 2) {
+            const bool two = y + 1 < h;
+            const auto row = [&](int64_t j) { return rowAt(src, sstep, y + j); };
+            if (kh == 1) {
+                across(row(0), byteOffset(dst, y * dstep), cw);
+                if (two) across(row(1), byteOffset(dst, (y + 1) * dstep), cw);
+                continue;
             }
-            across(v, byteOffset(dst, y * dstep), cw);
+            T* const r0 = vrow();
+            T* const r1 = suffix(0);
+            forBlocks(n, L, [&](int64_t e) {
+                V<T> shared = isa::loadU(row(1) + e);
+                for (int j = 2; j < kh; ++j) shared = X::of(shared, isa::loadU(row(j) + e));
+                isa::storeU(r0 + e, X::of(isa::loadU(row(0) + e), shared));
+                if (two) isa::storeU(r1 + e, X::of(shared, isa::loadU(row(kh) + e)));
+            }, [&](int64_t e) {
+                T shared = row(1)[e];
+                for (int j = 2; j < kh; ++j) shared = X::of(shared, row(j)[e]);
+                r0[e] = X::of(row(0)[e], shared);
+                if (two) r1[e] = X::of(shared, row(kh)[e]);
+            });
+            across(r0, byteOffset(dst, y * dstep), cw);
+            if (two) across(r1, byteOffset(dst, (y + 1) * dstep), cw);
         }
     }
 
@@ -615,10 +638,12 @@ struct ExtremaKernel {
     // out[e] = op over v[e + i * stride], i < kw, for e < cw.
     void across(const T* v, T* out, int64_t cw) const {
         if (kw <= kDirectColumns) {
-            forBlocks(cw, L, [&](int64_t e) {
-                V<T> acc = isa::loadU(v + e);
-                for (int i = 1; i < kw; ++i) acc = X::of(acc, isa::loadU(v + e + i * stride));
-                output.put(out + e, acc);
+            using Lay = Layer<true>;
+            forBlocks(cw, Lay::kLanes<T>, [&](int64_t e) {
+                auto acc = Lay::load(v + e);
+                for (int i = 1; i < kw; ++i) acc = X::of(acc, Lay::load(v + e + i * stride));
+                if (output.alpha) storeKeep(out + e, acc, Lay::load(reinterpret_cast<const T*>(output.lanes.bytes)));
+                else storeU(out + e, acc);
             }, [&](int64_t e) {
                 if (output.skips(e)) return;
                 T acc = v[e];
