@@ -33,33 +33,33 @@ constexpr int typeOf() {
     return std::is_same_v<T, Qvn8u> ? qvn8u : std::is_same_v<T, Qvn16u> ? qvn16u : qvn32f;
 }
 
+// One rank filter with an n x n mask and replicated borders: query gives the
+// buffer size, fn is ours, peer(src, dst) OpenCV's.
+template <class T, class Query, class Fn, class P>
+[[maybe_unused]] std::pair<Peer, Factory> rankFilter(int n, Query query, Fn fn, P peer) {
+    auto buffer = std::make_shared<Buffer>();
+    return unary<T, T>(1, 1, [buffer, n, query, fn](const Image<T>& s, Image<T>& d) {
+        Qvn8u* b = buffer->at(s.roi(), [n, query](QvnRoiSize roi, int* size) { query(roi, {n, n}, typeOf<T>(), 1, size); });
+        return fn(s.p(), s.step(), d.p(), d.step(), s.roi(), QvnRoiSize{n, n}, qvnBorderReplicate, T(0), b);
+    }, opencv([n, peer](const Image<T>& s, Image<T>& d) {
+        cv::Mat out = d.mat();
+        peer(s.mat(), out, n);
+    }));
+}
+
 template <class T, class Fn>
 [[maybe_unused]] std::pair<Peer, Factory> median(int n, Fn fn) {
-    auto buffer = std::make_shared<Buffer>();
-    return unary<T, T>(1, 1, [buffer, n, fn](const Image<T>& s, Image<T>& d) {
-        Qvn8u* b = buffer->at(s.roi(), [n](QvnRoiSize roi, int* size) {
-            qvniFilterMedianBorderGetBufferSize(roi, {n, n}, typeOf<T>(), 1, size);
-        });
-        return fn(s.p(), s.step(), d.p(), d.step(), s.roi(), QvnRoiSize{n, n}, qvnBorderReplicate, T(0), b);
-    }, opencv([n](const Image<T>& s, Image<T>& d) {
-        cv::Mat out = d.mat();
-        cv::medianBlur(s.mat(), out, n);
-    }));
+    return rankFilter<T>(n, qvniFilterMedianBorderGetBufferSize, fn,
+                         [](const cv::Mat& s, cv::Mat& d, int k) { cv::medianBlur(s, d, k); });
 }
 
 template <class T, bool Max, class Fn>
 [[maybe_unused]] std::pair<Peer, Factory> extremum(int n, Fn fn) {
-    auto buffer = std::make_shared<Buffer>();
-    return unary<T, T>(1, 1, [buffer, n, fn](const Image<T>& s, Image<T>& d) {
-        Qvn8u* b = buffer->at(s.roi(), [n](QvnRoiSize roi, int* size) {
-            qvniFilterMaxBorderGetBufferSize(roi, {n, n}, typeOf<T>(), 1, size);
-        });
-        return fn(s.p(), s.step(), d.p(), d.step(), s.roi(), QvnRoiSize{n, n}, qvnBorderReplicate, T(0), b);
-    }, opencv([n](const Image<T>& s, Image<T>& d) {
-        cv::Mat out = d.mat(), k = cv::Mat::ones(n, n, CV_8U);
-        if (Max) cv::dilate(s.mat(), out, k, cv::Point(-1, -1), 1, cv::BORDER_REPLICATE);
-        else cv::erode(s.mat(), out, k, cv::Point(-1, -1), 1, cv::BORDER_REPLICATE);
-    }));
+    return rankFilter<T>(n, qvniFilterMaxBorderGetBufferSize, fn, [](const cv::Mat& s, cv::Mat& d, int k) {
+        const cv::Mat ones = cv::Mat::ones(k, k, CV_8U);
+        if (Max) cv::dilate(s, d, ones, cv::Point(-1, -1), 1, cv::BORDER_REPLICATE);
+        else cv::erode(s, d, ones, cv::Point(-1, -1), 1, cv::BORDER_REPLICATE);
+    });
 }
 
 #ifdef QVN_HAS_qvniFilterMedianBorder_8u_C1R

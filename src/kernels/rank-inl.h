@@ -18,11 +18,14 @@
 //                          window column, moved down a row with two counts
 //                          per column; the window's histogram moved right by
 //                          adding the entering column and subtracting the
-//                          leaving one (vector operations on the bins), and
-//                          the median walked from its previous position with
-//                          the count of values below it kept by the same
-//                          vector pass. Cnt is the counter (8, 16 or 32
-//                          bits), wide enough for the whole window's count.
+//                          leaving one. Each median is found from scratch (the
+//                          group of 16 bins, then the bin), so no pixel waits
+//                          for the previous one. Cnt is the counter (8, 16 or
+//                          32 bits), wide enough for the whole window's count;
+//                          16-bit counters also keep coarse (16-bin) column
+//                          counts and a group's fine counts are brought up to
+//                          date only when the median falls in it; 32-bit ones
+//                          walk the median from its previous position.
 //   ExtremaKernel<T, Max>  the minimum or maximum of the mask rectangle:
 //                          columns first (rows combined directly, or by
 //                          running extrema over blocks of mask-height rows,
