@@ -260,6 +260,167 @@ QVN_API QvnStatus qvniConv_32f_C4R(const Qvn32f* pSrc1, int src1Step, QvnRoiSize
  * (qvnErrSizeOverflow). */
 QVN_API QvnStatus qvniConvGetBufferSize(QvnRoiSize src1Size, QvnRoiSize src2Size, QvnDataType dataType, int numChannels, int algType, int* pBufferSize);
 
+/* The work-buffer size of qvniFilterMedianBorder for a ROI of roiSize, a
+ * mask of maskSize, images of dataType (qvn8u, qvn16u, qvn16s with 1, 3 or
+ * 4 channels; qvn32f with 1) and numChannels channels. The buffer serves
+ * every call with that ROI and mask, in place or not.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a mask side below 1 or even (qvnErrMaskSize); with 3
+ * or 4 channels a data type other than 8u, 16u, 16s (qvnErrDataType),
+ * otherwise a channel count other than 1 (qvnErrChannelCount) or a data type
+ * other than 8u, 16u, 16s, 32f (qvnErrDataType); a size of 2^31 bytes or more
+ * (qvnErrSizeOverflow, 0 written). */
+QVN_API QvnStatus qvniFilterMedianBorderGetBufferSize(QvnRoiSize roiSize, QvnRoiSize maskSize, QvnDataType dataType, int numChannels, int* pBufferSize);
+
+/* The median filter: each pixel of pDst becomes, per channel, the median of
+ * the maskSize.width x maskSize.height pixels of pSrc around it (both sides
+ * odd; the value of rank (n + 1) / 2 in ascending order of the n values),
+ * exactly, whatever the mask. Neighbours beyond the ROI follow border:
+ * qvnBorderReplicate or qvnBorderConstant (borderValue, per channel for C3,
+ * C4 and AC4), with any in-memory flags (that side is read from memory
+ * around the ROI, at srcStep), or qvnBorderInMem alone; mirror is not
+ * offered. pDst may be pSrc (in place, same step). A 1 x 1 mask copies (in
+ * place it does nothing). 32f values are ordered as numbers; a NaN among
+ * them gives an unspecified value, the same on every target. pBuffer holds
+ * the bytes that qvniFilterMedianBorderGetBufferSize reported for the ROI
+ * and mask.
+ * Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask side below 1 or even
+ * (qvnErrMaskSize); a border kind other than qvnBorderInMem, or
+ * qvnBorderReplicate or qvnBorderConstant with any in-memory flags
+ * (qvnErrBorderKind). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMedianBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn8u borderValue, Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask side below 1 or even
+ * (qvnErrMaskSize); a border kind other than qvnBorderInMem, or
+ * qvnBorderReplicate or qvnBorderConstant with any in-memory flags
+ * (qvnErrBorderKind); a null borderValue with the constant border kind
+ * (qvnErrNullPointer). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMedianBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[4], Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); an odd srcStep or dstStep, not a whole
+ * number of elements (qvnErrStepMultiple); a mask side below 1 or even
+ * (qvnErrMaskSize); a border kind other than qvnBorderInMem, or
+ * qvnBorderReplicate or qvnBorderConstant with any in-memory flags
+ * (qvnErrBorderKind). */
+QVN_API QvnStatus qvniFilterMedianBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16u borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16s borderValue, Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); an odd srcStep or dstStep, not a whole
+ * number of elements (qvnErrStepMultiple); a mask side below 1 or even
+ * (qvnErrMaskSize); a border kind other than qvnBorderInMem, or
+ * qvnBorderReplicate or qvnBorderConstant with any in-memory flags
+ * (qvnErrBorderKind); a null borderValue with the constant border kind
+ * (qvnErrNullPointer). */
+QVN_API QvnStatus qvniFilterMedianBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMedianBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[4], Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask side below 1 or even
+ * (qvnErrMaskSize); a border kind other than qvnBorderInMem, or
+ * qvnBorderReplicate or qvnBorderConstant with any in-memory flags
+ * (qvnErrBorderKind). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMedianBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn32f borderValue, Qvn8u* pBuffer);
+
+/* The work-buffer size of qvniFilterMinBorder and qvniFilterMaxBorder (one
+ * operation under two names) for a ROI of roiSize, a mask of maskSize and
+ * images of dataType (qvn8u, qvn16u, qvn16s, qvn32f) with numChannels (1, 3
+ * or 4) channels.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a mask side below 1 (qvnErrMaskSize); a data type
+ * other than 8u, 16u, 16s, 32f (qvnErrDataType); a channel count other than 1,
+ * 3, 4 (qvnErrChannelCount); a size of 2^31 bytes or more (qvnErrSizeOverflow,
+ * 0 written). */
+QVN_API QvnStatus qvniFilterMaxBorderGetBufferSize(QvnRoiSize roiSize, QvnRoiSize maskSize, QvnDataType dataType, int numChannels, int* pBufferSize);
+QVN_API QvnStatus qvniFilterMinBorderGetBufferSize(QvnRoiSize roiSize, QvnRoiSize maskSize, QvnDataType dataType, int numChannels, int* pBufferSize);
+
+/* The maximum and minimum filters: each pixel of pDst becomes, per channel,
+ * the largest (smallest) value of the maskSize rectangle around it, any
+ * sides; the anchor is ((width - 1) / 2, (height - 1) / 2), so an even side
+ * reaches one pixel further right (down). Borders as for the general filter:
+ * qvnBorderReplicate, qvnBorderMirror or qvnBorderConstant (borderValue, per
+ * channel for C3, C4 and AC4) with any in-memory flags, or qvnBorderInMem.
+ * A 1 x 1 mask copies with qvnBorderInMem and writes nothing with any other
+ * kind (qvnWarnNoOperation). 32f: a NaN in the rectangle gives a NaN. pDst
+ * may be pSrc. The cost per pixel does not grow with the mask's height and
+ * grows with the logarithm of its width beyond 8.
+ * Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask width or height below 1
+ * (qvnErrMaskSize); a border kind the function does not accept
+ * (qvnErrBorderKind). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMaxBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn8u borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16u borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16s borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn32f borderValue, Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask width or height below 1
+ * (qvnErrMaskSize); a border kind the function does not accept
+ * (qvnErrBorderKind); a null borderValue with the constant border kind
+ * (qvnErrNullPointer). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMaxBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMaxBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[4], Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask width or height below 1
+ * (qvnErrMaskSize); a border kind the function does not accept
+ * (qvnErrBorderKind). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMinBorder_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn8u borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16u borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn16s borderValue, Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, Qvn32f borderValue, Qvn8u* pBuffer);
+
+/* Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
+ * width or height below 1 (qvnErrSize); a mask width or height below 1
+ * (qvnErrMaskSize); a border kind the function does not accept
+ * (qvnErrBorderKind); a null borderValue with the constant border kind
+ * (qvnErrNullPointer). Steps are not checked: a negative step walks the rows
+ * upward, 0 repeats one row, a step shorter than a row overlaps rows ("steps"
+ * in qvnip_types.h). */
+QVN_API QvnStatus qvniFilterMinBorder_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[3], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn8u borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16u borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn16s borderValue[4], Qvn8u* pBuffer);
+QVN_API QvnStatus qvniFilterMinBorder_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, QvnRoiSize maskSize, QvnBorderKind border, const Qvn32f borderValue[4], Qvn8u* pBuffer);
+
 QVN_END_DECLS
 
 #endif /* QVNIP_FILTER_H */

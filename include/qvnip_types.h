@@ -64,7 +64,7 @@ typedef struct { int x; int y; int width; int height; } QvnRect;
 typedef int QvnStatus;
 enum {
     qvnOk                   = 0,    /* success */
-    qvnWarnNoOperation      = 1,    /* an initialiser got a zero width or height: nothing set up, not an error */
+    qvnWarnNoOperation      = 1,    /* nothing done, not an error: an initialiser got a zero width or height; a min/max filter a 1 x 1 mask with a synthesised border */
     qvnWarnDivByZero        = 2,    /* a divisor was zero: all pixels written, those with the documented value */
     qvnWarnSqrtNegative     = 3,    /* a square root met a negative input; every pixel is written */
     qvnWarnLnZeroArg        = 7,    /* a logarithm met a zero input; every pixel is written */

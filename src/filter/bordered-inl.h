@@ -37,6 +37,16 @@
 //       piece it runs in vectors. Pieces may overlap: the kernel must compute
 //       each output the same way from the same neighbours.
 //
+//   runBordered<T, L>(..., kernel, rowBegin, rowEnd)
+//       the same for output rows [rowBegin, rowEnd) only, written from dst
+//       on (dst addresses row rowBegin); it reads only the source rows those
+//       outputs reach. In-place filters run in such bands.
+//
+//   copiesBeforeWriting(border, reach, roi)
+//       whether runBordered copies every source pixel it reads to the buffer
+//       before it writes an output (the whole bordered copy): then the
+//       destination may be the source.
+//
 // Sides: a side needs no synthesis when its in-memory flag is set (the
 // caller guarantees the memory there, at the source's step) or when the
 // kernel does not reach it. With nothing to synthesise the kernel runs on
@@ -104,22 +114,36 @@ inline std::int64_t stripBytes(std::int64_t kw, std::int64_t kh, std::int64_t w,
     return (stripPixels(kw, kh, w, h) * elemBytes * channels + 31) / 32 * 32 + 32;
 }
 
+// The depths of border a call synthesises: a side read from memory, or not
+// reached, needs none.
+inline Reach synthesised(int border, Reach k) {
+    const unsigned inMem = unsigned(border) & 0xF0;
+    return {(inMem & border::kInMemLeft) ? 0 : k.left, (inMem & border::kInMemTop) ? 0 : k.top,
+            (inMem & border::kInMemRight) ? 0 : k.right, (inMem & border::kInMemBottom) ? 0 : k.bottom};
+}
+
+inline bool copiesBeforeWriting(int border, Reach k, RoiL roi) {
+    const Reach s = synthesised(border, k);
+    const bool any = s.left > 0 || s.right > 0 || s.top > 0 || s.bottom > 0;
+    return any && (k.width() >= roi.width || k.height() >= roi.height);
+}
+
 template <class T, class L, class Kernel>
 inline void runBordered(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi, int border,
-                        const T* value, Reach k, void* buffer, const Kernel& kernel) {
+                        const T* value, Reach k, void* buffer, const Kernel& kernel, std::int64_t rowBegin = 0,
+                        std::int64_t rowEnd = -1) {
     constexpr std::int64_t C = L::kElems;
     const std::int64_t W = roi.width, H = roi.height, kw = k.width(), kh = k.height();
+    const std::int64_t rb = rowBegin, re = rowEnd < 0 ? H : rowEnd;
     const unsigned inMem = unsigned(border) & 0xF0;
-    const std::int64_t left = (inMem & border::kInMemLeft) ? 0 : k.left;
-    const std::int64_t right = (inMem & border::kInMemRight) ? 0 : k.right;
-    const std::int64_t top = (inMem & border::kInMemTop) ? 0 : k.top;
-    const std::int64_t bottom = (inMem & border::kInMemBottom) ? 0 : k.bottom;
+    const Reach syn = synthesised(border, k);
+    const std::int64_t left = syn.left, right = syn.right, top = syn.top, bottom = syn.bottom;
     const auto window = [&](std::int64_t x, std::int64_t y) {  // the neighbours of output pixel (x, y)
         return byteOffset(src, (y - k.top) * srcStep) + (x - k.left) * C;
     };
-    const auto out = [&](std::int64_t x, std::int64_t y) { return byteOffset(dst, y * dstStep) + x * C; };
+    const auto out = [&](std::int64_t x, std::int64_t y) { return byteOffset(dst, (y - rb) * dstStep) + x * C; };
     if (left == 0 && right == 0 && top == 0 && bottom == 0) {
-        kernel(window(0, 0), srcStep, dst, dstStep, W * C, H);
+        kernel(window(0, rb), srcStep, dst, dstStep, W * C, re - rb);
         return;
     }
 
@@ -129,6 +153,9 @@ inline void runBordered(const T* src, std::int64_t srcStep, T* dst, std::int64_t
     // Output pixels [x0, x0 + w) x [y0, y0 + h) from strips of the extended
     // source, in chunks of rows that fit the buffer.
     const auto piece = [&](std::int64_t x0, std::int64_t y0, std::int64_t w, std::int64_t h) {
+        const std::int64_t yEnd = std::min(y0 + h, re);  // the band's rows of the piece
+        y0 = std::max(y0, rb), h = yEnd - y0;
+        if (h <= 0) return;
         const std::int64_t sw = w + kw - 1, stripStep = sw * C * std::int64_t(sizeof(T));
         const std::int64_t chunk = std::min(h, capacity / (sw * C) - (kh - 1));
         for (std::int64_t y = y0; y < y0 + h; y += chunk) {
@@ -153,7 +180,8 @@ inline void runBordered(const T* src, std::int64_t srcStep, T* dst, std::int64_t
         const std::int64_t w = std::max(right, std::min({W, block, widest}));
         piece(W - w, y0, w, h);
     }
-    kernel(window(left, y0), srcStep, out(left, y0), dstStep, (W - left - right) * C, h);
+    const std::int64_t i0 = std::max(y0, rb), i1 = std::min(y0 + h, re);
+    if (i1 > i0) kernel(window(left, i0), srcStep, out(left, i0), dstStep, (W - left - right) * C, i1 - i0);
 }
 
 }  // namespace filter
