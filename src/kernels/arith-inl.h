@@ -325,9 +325,10 @@ inline V<T> alphaLanes(int64_t i0) {
 }
 
 // The row template: d[i] = kern(x[i], y[i]) over n elements, scalar head until
-// d is vector-aligned, vector body, scalar tail. With Keep every fourth element
-// (alpha) is left as it is.
-template <bool Keep, class T, class Kern, class Y>
+// d is vector-aligned, vector body (written by the Store policy), scalar tail.
+// With Keep every fourth element (alpha) is left as it is. y's vectors are
+// whatever its kernel takes (a vector of T, or a set of them).
+template <bool Keep, class Store = StoreRegular, class T, class Kern, class Y>
 inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
     int64_t head = headToAlign(d, n);
@@ -339,10 +340,10 @@ inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
         y.start(i);
         const V<T> alpha = Keep ? alphaLanes<T>(i) : isa::zero<T>();
         if constexpr (Keep) kern.skipLanes(alpha);
-        const auto one = [&](int64_t k, V<T> yv) {
+        const auto one = [&](int64_t k, const auto& yv) {
             const V<T> r = kern.vector(isa::loadU(x + k), yv);
             if constexpr (Keep) isa::storeKeep(d + k, r, alpha);
-            else isa::storeA(d + k, r);
+            else Store::store(d + k, r);
         };
         if constexpr (Y::kPeriod == 3) {  // a 3-constant pattern: three vectors a round
             for (; i + 3 * kLanes <= n; i += 3 * kLanes) {
