@@ -34,12 +34,12 @@ inline QvnStatus maskOfConstant(const Op& op, const T* src, std::int64_t srcStep
                                 std::int64_t dStep, RoiL roi) {
     using Row = kernels::arith::RowOperand<T>;
     constexpr int E = L::kElems;
-    const kernels::arith::ConstOperand<T, L::kAlpha ? 4 : E> c(value, L::kChannels);
+    const kernels::ChannelConstants<T, L::kAlpha ? 4 : E, 1> c({value}, L::kChannels);
     return forEachRow(
         roi,
         [&](const T* s, Qvn8u* dr, std::int64_t n) {
-            if constexpr (Swapped) kc::maskRow<T, E, L::kAlpha>(op, c, Row{s}, dr, n);
-            else kc::maskRow<T, E, L::kAlpha>(op, Row{s}, c, dr, n);
+            if constexpr (Swapped) kc::maskRow<T, E, L::kAlpha>(op, c.operand(), Row{s}, dr, n);
+            else kc::maskRow<T, E, L::kAlpha>(op, Row{s}, c.operand(), dr, n);
         },
         rows(src, srcStep, E), rows(d, dStep, 1));
 }

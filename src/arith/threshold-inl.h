@@ -40,20 +40,25 @@ constexpr bool thresholdStreams() {
 inline constexpr std::uint64_t kThresholdStreamFrom = 0x40001;
 
 // Runs the threshold operation Kern with its constants (c[n]: constant n of
-// each colour channel) over the rows.
-template <ThresholdFamily F, template <class> class Kern, class T, class L, bool IP>
+// each colour channel) over the rows; Streams: the form may bypass the caches
+// (one instantiation serves every form that shares kernel, type, layout and
+// this).
+template <template <class> class Kern, class T, class L, bool Streams>
 inline QvnStatus thresholdRows(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
                                const T* const (&c)[Kern<T>::kConstants]) {
     constexpr int E = L::kElems;
-    const kernels::threshold::Constants<T, L::kAlpha ? 4 : E, Kern<T>::kConstants> consts(c, L::kChannels);
+    const kernels::ChannelConstants<T, L::kAlpha ? 4 : E, Kern<T>::kConstants> consts(c, L::kChannels);
     Kern<T> kern;
     const auto run = [&](auto store) {
         using Store = decltype(store);
         return forEachRow(
-            roi, [&](const T* s, T* d, std::int64_t n) { kernels::arith::row<L::kAlpha, Store>(s, consts, d, n * E, kern); },
+            roi,
+            [&](const T* s, T* d, std::int64_t n) {
+                kernels::arith::row<L::kAlpha, Store>(s, consts.operand(), d, n * E, kern);
+            },
             rows(src, srcStep, E), rows(dst, dstStep, E));
     };
-    if constexpr (thresholdStreams<F, T, L, IP>()) {
+    if constexpr (Streams) {
         const std::uint64_t bytes = std::uint64_t(roi.width) * std::uint64_t(roi.height) * E * sizeof(T);
         if (useStreamingStores(bytes, kThresholdStreamFrom, bytes)) {
             const QvnStatus s = run(kernels::StoreStreaming{});
@@ -70,6 +75,7 @@ inline QvnStatus lessOrGreater(int op) {
 }
 
 namespace kt = kernels::threshold;
+using TF = ThresholdFamily;
 
 // Pointers (the constants included), ROI, steps, then the operator.
 template <class T, class L, bool IP>
@@ -79,9 +85,9 @@ inline QvnStatus thresholdOp(const T* src, std::int64_t srcStep, T* dst, std::in
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
     QVN_TRY(lessOrGreater(op));
-    constexpr auto F = ThresholdFamily::kOp;
-    if (op == qvnCmpLess) return thresholdRows<F, kt::RaiseTo, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold});
-    return thresholdRows<F, kt::LowerTo, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold});
+    constexpr bool kStreams = thresholdStreams<TF::kOp, T, L, IP>();
+    if (op == qvnCmpLess) return thresholdRows<kt::RaiseTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
+    return thresholdRows<kt::LowerTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
 }
 
 template <class T, class L, bool IP>
@@ -90,7 +96,8 @@ inline QvnStatus thresholdLT(const T* src, std::int64_t srcStep, T* dst, std::in
     QVN_TRY(check::ptrs(src, dst, threshold));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    return thresholdRows<ThresholdFamily::kLT, kt::RaiseTo, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold});
+    constexpr bool kStreams = thresholdStreams<TF::kLT, T, L, IP>();
+    return thresholdRows<kt::RaiseTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
 }
 
 template <class T, class L, bool IP>
@@ -99,7 +106,8 @@ inline QvnStatus thresholdGT(const T* src, std::int64_t srcStep, T* dst, std::in
     QVN_TRY(check::ptrs(src, dst, threshold));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    return thresholdRows<ThresholdFamily::kGT, kt::LowerTo, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold});
+    constexpr bool kStreams = thresholdStreams<TF::kGT, T, L, IP>();
+    return thresholdRows<kt::LowerTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
 }
 
 template <class T, class L, bool IP>
@@ -108,8 +116,8 @@ inline QvnStatus thresholdLTVal(const T* src, std::int64_t srcStep, T* dst, std:
     QVN_TRY(check::ptrs(src, dst, threshold, value));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    return thresholdRows<ThresholdFamily::kLTVal, kt::ReplaceBelow, T, L, IP>(src, srcStep, dst, dstStep, roi,
-                                                                              {threshold, value});
+    constexpr bool kStreams = thresholdStreams<TF::kLTVal, T, L, IP>();
+    return thresholdRows<kt::ReplaceBelow, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
 }
 
 template <class T, class L, bool IP>
@@ -118,8 +126,8 @@ inline QvnStatus thresholdGTVal(const T* src, std::int64_t srcStep, T* dst, std:
     QVN_TRY(check::ptrs(src, dst, threshold, value));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    return thresholdRows<ThresholdFamily::kGTVal, kt::ReplaceAbove, T, L, IP>(src, srcStep, dst, dstStep, roi,
-                                                                              {threshold, value});
+    constexpr bool kStreams = thresholdStreams<TF::kGTVal, T, L, IP>();
+    return thresholdRows<kt::ReplaceAbove, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
 }
 
 // The operator first, then pointers, ROI and steps.
@@ -130,10 +138,10 @@ inline QvnStatus thresholdVal(const T* src, std::int64_t srcStep, T* dst, std::i
     QVN_TRY(check::ptrs(src, dst, threshold, value));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    constexpr auto F = ThresholdFamily::kVal;
+    constexpr bool kStreams = thresholdStreams<TF::kVal, T, L, IP>();
     if (op == qvnCmpLess)
-        return thresholdRows<F, kt::ReplaceBelow, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold, value});
-    return thresholdRows<F, kt::ReplaceAbove, T, L, IP>(src, srcStep, dst, dstStep, roi, {threshold, value});
+        return thresholdRows<kt::ReplaceBelow, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
+    return thresholdRows<kt::ReplaceAbove, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
 }
 
 // Pointers, ROI, steps, then an upper threshold below the lower one in any
@@ -147,8 +155,9 @@ inline QvnStatus thresholdLTValGTVal(const T* src, std::int64_t srcStep, T* dst,
     QVN_TRY(check::steps(srcStep, dstStep));
     for (int c = 0; c < L::kChannels; ++c)
         if (upperThreshold[c] < lowerThreshold[c]) return qvnErrThresholdOrder;
-    return thresholdRows<ThresholdFamily::kLTValGTVal, kt::ReplaceOutside, T, L, IP>(
-        src, srcStep, dst, dstStep, roi, {lowerThreshold, lowerValue, upperThreshold, upperValue});
+    constexpr bool kStreams = thresholdStreams<TF::kLTValGTVal, T, L, IP>();
+    return thresholdRows<kt::ReplaceOutside, T, L, kStreams>(src, srcStep, dst, dstStep, roi,
+                                                              {lowerThreshold, lowerValue, upperThreshold, upperValue});
 }
 
 }  // namespace arith

@@ -14,6 +14,7 @@
 #include <type_traits>
 
 #include "kernels/arith-inl.h"
+#include "kernels/constants-inl.h"
 
 QVN_TARGET_BEGIN
 namespace kernels {
@@ -66,12 +67,19 @@ struct EqualEps {
     V<float> vector(V<float> a, V<float> b) const { return isa::cmpLe(isa::bitAnd(isa::sub(a, b), magnitude), veps); }
 };
 
-// The vector of an operand for element i, the k-th vector of a block whose
-// vector count is a multiple of the operand's period.
+// The vector of an operand (an image row or one constant per channel) for
+// element i, the k-th vector of a block whose vector count is a multiple of
+// the constants' period.
 template <class T, class Y>
 inline V<T> operandAt(const Y& y, std::int64_t i, int k) {
-    if constexpr (Y::kPeriod == 3) return y.v[k % 3];
-    else return y.vec(i);
+    if constexpr (std::is_same_v<Y, arith::RowOperand<T>>) return y.vec(i);
+    else return y.v[k % Y::kPeriod].c[0];
+}
+
+template <class T, class Y>
+inline T scalarAt(const Y& y, std::int64_t i) {
+    if constexpr (std::is_same_v<Y, arith::RowOperand<T>>) return y.at(i);
+    else return y.at(i).c[0];
 }
 
 // All-ones masks of T lanes narrowed to bytes, in order: sizeof(T) vectors
@@ -113,7 +121,8 @@ inline V<std::uint8_t> perPixel(const V<std::uint8_t>* b, V<std::uint8_t> alpha)
 
 // d[x] = 255 where op(a, b) holds in every colour channel of pixel x, else
 // 0, for n pixels of E elements (Alpha: AC4, whose fourth is not compared).
-// a and b are arith::RowOperand or arith::ConstOperand. Scalar head until d
+// a and b are arith::RowOperand or ChannelConstants' operand (one constant
+// per channel). Scalar head until d
 // is vector-aligned; the body makes one vector of d from E x sizeof(T)
 // vectors of each operand.
 template <class T, int E, bool Alpha, class Op, class A, class B>
@@ -121,7 +130,7 @@ inline void maskRow(const Op& op, A a, B b, Qvn8u* d, std::int64_t n) {
     constexpr int kColours = Alpha ? 3 : E;
     const auto pixel = [&](std::int64_t x) {
         bool all = true;
-        for (int c = 0; c < kColours; ++c) all = all && op.scalar(a.at(x * E + c), b.at(x * E + c));
+        for (int c = 0; c < kColours; ++c) all = all && op.scalar(scalarAt<T>(a, x * E + c), scalarAt<T>(b, x * E + c));
         d[x] = all ? 255 : 0;
     };
     constexpr std::int64_t kPixels = isa::kLanes<std::uint8_t>;  // a block: one vector of d

@@ -10,9 +10,10 @@
 QVN_TARGET_BEGIN
 namespace kernels {
 
-// Counts the bytes of rows added to it. Consecutive bytes go to four partial
-// histograms in turn, so that a run of one value does not wait on its own
-// counter's last increment; the parts are 32-bit and are added into the
+// Counts the bytes of rows added to it, eight at a time: eight bytes of one
+// level take one update; otherwise consecutive bytes go to four partial
+// histograms in turn, so that repeated levels do not wait on their own
+// counter's last increment. The parts are 32-bit and are added into the
 // 64-bit totals before any of them could overflow.
 class Histogram8u {
 public:
@@ -41,6 +42,10 @@ private:
         for (; i + 8 <= n; i += 8) {
             std::uint64_t w;
             std::memcpy(&w, s + i, 8);
+            if (w == (w & 255) * 0x0101010101010101u) {  // eight of one level (flat areas): one update
+                h0[w & 255] += 8;
+                continue;
+            }
             ++h0[w & 255], ++h1[(w >> 8) & 255], ++h2[(w >> 16) & 255], ++h3[(w >> 24) & 255];
             ++h0[(w >> 32) & 255], ++h1[(w >> 40) & 255], ++h2[(w >> 48) & 255], ++h3[w >> 56];
         }

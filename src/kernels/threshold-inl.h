@@ -1,5 +1,5 @@
-// Thresholds: the per-channel constants of a row and the operations, scalar
-// and vector forms side by side, for kernels::arith::row.
+// Thresholds: the operations, scalar and vector forms side by side, for
+// kernels::arith::row with a ChannelConstants operand.
 //
 // Every test is strict, so a pixel equal to its threshold is never replaced,
 // and false where a float operand is NaN, so NaN pixels are kept. Unsigned
@@ -8,11 +8,10 @@
 #ifndef QVN_KERNELS_THRESHOLD_INL_H
 #define QVN_KERNELS_THRESHOLD_INL_H
 
-#include <cstdint>
 #include <type_traits>
-#include <utility>
 
 #include "kernels/arith-inl.h"
+#include "kernels/constants-inl.h"
 
 QVN_TARGET_BEGIN
 namespace kernels {
@@ -20,46 +19,6 @@ namespace threshold {
 
 template <class T>
 using V = isa::Vec<T>;
-
-// N constants of one element (thresholds and values), as scalars or vectors.
-template <class T, int N>
-struct Scalars {
-    T c[N];
-};
-template <class T, int N>
-struct Vectors {
-    V<T> c[N];
-};
-
-// N per-channel constants repeating along a row of K-element pixels (K = 4
-// for AC4, whose fourth constants are never read), in the shape that
-// arith::row takes for its second operand.
-template <class T, int K, int N>
-struct Constants {
-    static constexpr int kPeriod = K == 3 ? 3 : 1;
-    arith::ConstOperand<T, K> op[N];
-    Vectors<T, N> v[kPeriod];
-
-    // p[n] holds constant n for each of the count channels that are read.
-    Constants(const T* const (&p)[N], int count) : Constants(p, count, std::make_index_sequence<N>{}) {}
-    Scalars<T, N> at(std::int64_t i) const {
-        Scalars<T, N> s;
-        for (int n = 0; n < N; ++n) s.c[n] = op[n].at(i);
-        return s;
-    }
-    void start(std::int64_t i0) {
-        for (int n = 0; n < N; ++n) {
-            op[n].start(i0);
-            for (int k = 0; k < kPeriod; ++k) v[k].c[n] = op[n].v[k];
-        }
-    }
-    const Vectors<T, N>& vec(std::int64_t) const { return v[0]; }  // period 1
-
-private:
-    template <std::size_t... I>
-    Constants(const T* const (&p)[N], int count, std::index_sequence<I...>)
-        : op{arith::ConstOperand<T, K>(p[I], count)...}, v{} {}
-};
 
 // a < b ? r : x, lane by lane.
 template <class T>
