@@ -90,44 +90,15 @@ inline QvnStatus thresholdOp(const T* src, std::int64_t srcStep, T* dst, std::in
     return thresholdRows<kt::LowerTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
 }
 
-template <class T, class L, bool IP>
-inline QvnStatus thresholdLT(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
-                             const T* threshold) {
-    QVN_TRY(check::ptrs(src, dst, threshold));
+// _LT, _GT, _LTVal and _GTVal: pointers (the constants c included), ROI,
+// steps; then Kern with the constants.
+template <ThresholdFamily F, template <class> class Kern, class T, class L, bool IP, class... C>
+inline QvnStatus thresholdFixed(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
+                                const C*... c) {
+    QVN_TRY(check::ptrs(src, dst, c...));
     QVN_TRY(check::roi(roi));
     QVN_TRY(check::steps(srcStep, dstStep));
-    constexpr bool kStreams = thresholdStreams<TF::kLT, T, L, IP>();
-    return thresholdRows<kt::RaiseTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
-}
-
-template <class T, class L, bool IP>
-inline QvnStatus thresholdGT(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
-                             const T* threshold) {
-    QVN_TRY(check::ptrs(src, dst, threshold));
-    QVN_TRY(check::roi(roi));
-    QVN_TRY(check::steps(srcStep, dstStep));
-    constexpr bool kStreams = thresholdStreams<TF::kGT, T, L, IP>();
-    return thresholdRows<kt::LowerTo, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold});
-}
-
-template <class T, class L, bool IP>
-inline QvnStatus thresholdLTVal(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
-                                const T* threshold, const T* value) {
-    QVN_TRY(check::ptrs(src, dst, threshold, value));
-    QVN_TRY(check::roi(roi));
-    QVN_TRY(check::steps(srcStep, dstStep));
-    constexpr bool kStreams = thresholdStreams<TF::kLTVal, T, L, IP>();
-    return thresholdRows<kt::ReplaceBelow, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
-}
-
-template <class T, class L, bool IP>
-inline QvnStatus thresholdGTVal(const T* src, std::int64_t srcStep, T* dst, std::int64_t dstStep, RoiL roi,
-                                const T* threshold, const T* value) {
-    QVN_TRY(check::ptrs(src, dst, threshold, value));
-    QVN_TRY(check::roi(roi));
-    QVN_TRY(check::steps(srcStep, dstStep));
-    constexpr bool kStreams = thresholdStreams<TF::kGTVal, T, L, IP>();
-    return thresholdRows<kt::ReplaceAbove, T, L, kStreams>(src, srcStep, dst, dstStep, roi, {threshold, value});
+    return thresholdRows<Kern, T, L, thresholdStreams<F, T, L, IP>()>(src, srcStep, dst, dstStep, roi, {c...});
 }
 
 // The operator first, then pointers, ROI and steps.

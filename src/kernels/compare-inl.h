@@ -122,9 +122,8 @@ inline V<std::uint8_t> perPixel(const V<std::uint8_t>* b, V<std::uint8_t> alpha)
 // d[x] = 255 where op(a, b) holds in every colour channel of pixel x, else
 // 0, for n pixels of E elements (Alpha: AC4, whose fourth is not compared).
 // a and b are arith::RowOperand or ChannelConstants' operand (one constant
-// per channel). Scalar head until d
-// is vector-aligned; the body makes one vector of d from E x sizeof(T)
-// vectors of each operand.
+// per channel). Scalar head until d is vector-aligned; the body makes one
+// vector of d from E x sizeof(T) vectors of each operand.
 template <class T, int E, bool Alpha, class Op, class A, class B>
 inline void maskRow(const Op& op, A a, B b, Qvn8u* d, std::int64_t n) {
     constexpr int kColours = Alpha ? 3 : E;
