@@ -304,13 +304,12 @@ QVN_API QvnStatus qvniCompareEqualEpsC_32f_C4R(const Qvn32f* pSrc, int srcStep, 
 QVN_API QvnStatus qvniCompareEqualEpsC_32f_AC4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
 
 /* Otsu's threshold of the ROI: the level k that maximises the between-class
- * variance of levels 0..k and k+1..255 (the lowest such k), computed in
- * double precision; 0 when no level separates two classes (an image of one
- * level, for instance).
+ * variance of levels 0..k against k+1..255 (the lowest such k), in double
+ * precision; levels at which either class weighs less than 2^-23 of the
+ * pixels take no part. 0 when no level separates two classes (an image of
+ * one level, for instance).
  * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
- * below 1 (qvnErrSize); a width greater than the step (qvnErrStep). Steps are
- * not checked: a negative step walks the rows upward, 0 repeats one row, a
- * step shorter than a row overlaps rows ("steps" in qvnip_types.h). */
+ * below 1 (qvnErrSize); a width greater than the step (qvnErrStep). */
 QVN_API QvnStatus qvniComputeThreshold_Otsu_8u_C1R(const Qvn8u* pSrc, int srcStep, QvnRoiSize roiSize, Qvn8u* pThreshold);
 
 /* Two-source arithmetic: Add gives src1 + src2, Sub src2 - src1, Mul src1 * src2.

@@ -257,7 +257,7 @@ def checks_note(e):
             raise TableError(f"{e.name}: no words for the check {tok!r}")
     text = "Checks, in order: " + "; ".join(words) + "."
     checked = {t.strip() for t in e.checks.split(",")}
-    if any(p.role == "step" for p in e.params) and not checked & {"step", "step0"}:
+    if any(p.role == "step" for p in e.params) and not checked & {"step", "step0", "widthstep"}:
         text += " " + UNCHECKED_STEPS
     return text
 

@@ -2,9 +2,6 @@
 // against the rules, every type, layout and form, and their own checks.
 #include <gtest/gtest.h>
 
-#include <algorithm>
-#include <array>
-
 #include "families/threshold_forms.h"
 
 namespace qvn::test {
@@ -37,12 +34,6 @@ void form(std::string name, int elems, bool alpha, bool inPlace, ArithCall<T> ca
 #define QVN_WITH_C4(x) x
 #define QVN_NO_C4(x)
 
-// Threshold values t and replacement values v: sets of extremes, 0, 1 and
-// small values, and for 32f NaN, infinities, signed zero and huge values.
-#define QVN_CONSTANTS(T)                                                                                      \
-    const PageEndConstants<Qvn##T> tc(set, false), vc(set + 5, false);                                        \
-    const Qvn##T *t = tc.data(), *v = vc.data();
-
 #define QVN_T_C1 t[3]
 #define QVN_T_CN(o) t + o
 #define QVN_T_OP_C1 t[3], op
@@ -51,104 +42,52 @@ void form(std::string name, int elems, bool alpha, bool inPlace, ArithCall<T> ca
 #define QVN_TV_CN(o) t + o, v + o
 #define QVN_TV_OP_C1 t[3], v[3], op
 #define QVN_TV_OP_CN(o) t + o, v + o, op
+#define QVN_OUTSIDE_C1 lt[3], v[3], ut[3], uv[3]
+#define QVN_OUTSIDE_CN(o) lt + o, v + o, ut + o, uv + o
 
-TEST(Threshold, ClampFormsRaiseOrLowerToTheThreshold) {
-    for (int set = 0; set < 4; ++set) {
-#define X(T)                                                                                                  \
-    {                                                                                                         \
-        QVN_CONSTANTS(T)                                                                                      \
-        const auto lt = [t](Qvn##T x, int i) { return ref::below(x, t[i], t[i]); };                           \
-        const auto gt = [t](Qvn##T x, int i) { return ref::above(x, t[i], t[i]); };                           \
-        QVN_FORMS(_LT, T, lt, QVN_T_C1, QVN_T_CN, QVN_NO_C4)                                                  \
-        QVN_FORMS(_GT, T, gt, QVN_T_C1, QVN_T_CN, QVN_NO_C4)                                                  \
-        for (int op : {qvnCmpLess, qvnCmpGreater}) {                                                          \
-            const auto model = [&, op](Qvn##T x, int i) { return op == qvnCmpLess ? lt(x, i) : gt(x, i); };    \
-            QVN_FORMS(, T, model, QVN_T_OP_C1, QVN_T_OP_CN, QVN_NO_C4)                                        \
-        }                                                                                                     \
-    }
-        QVN_TYPES(X)
-#undef X
-        if (HasFailure()) return;
-    }
-}
-
-TEST(Threshold, ValueFormsReplaceStrictlyBelowOrAbove) {
-    for (int set = 0; set < 4; ++set) {
-#define X(T)                                                                                                  \
-    {                                                                                                         \
-        QVN_CONSTANTS(T)                                                                                      \
-        const auto lt = [t, v](Qvn##T x, int i) { return ref::below(x, t[i], v[i]); };                        \
-        const auto gt = [t, v](Qvn##T x, int i) { return ref::above(x, t[i], v[i]); };                        \
-        QVN_FORMS(_LTVal, T, lt, QVN_TV_C1, QVN_TV_CN, QVN_WITH_C4)                                           \
-        QVN_FORMS(_GTVal, T, gt, QVN_TV_C1, QVN_TV_CN, QVN_WITH_C4)                                           \
-        for (int op : {qvnCmpLess, qvnCmpGreater}) {                                                          \
-            const auto model = [&, op](Qvn##T x, int i) { return op == qvnCmpLess ? lt(x, i) : gt(x, i); };    \
-            QVN_FORMS(_Val, T, model, QVN_TV_OP_C1, QVN_TV_OP_CN, QVN_NO_C4)                                  \
-        }                                                                                                     \
-    }
-        QVN_TYPES(X)
-#undef X
-        if (HasFailure()) return;
-    }
-}
-
-// Four constants ending at an inaccessible page, as PageEndConstants.
+// Four constants ending at an inaccessible page, as PageEndConstants: the
+// smaller (or with upper the larger) of a[k] and b[k].
 template <class T>
-struct PageEnd : GuardedImage<T> {
-    explicit PageEnd(const std::array<T, 4>& v) : GuardedImage<T>(Layout{4, 1, 1, 0, true, 3}) {
-        for (int k = 0; k < 4; ++k) this->at(k, 0) = v[std::size_t(k)];
+struct Ordered : GuardedImage<T> {
+    Ordered(const T* a, const T* b, bool upper) : GuardedImage<T>(Layout{4, 1, 1, 0, true, 3}) {
+        for (int k = 0; k < 4; ++k) this->at(k, 0) = (b[k] < a[k]) == upper ? a[k] : b[k];
         this->snapshot();
     }
 };
 
-// Lower and upper thresholds in order, channel by channel, from two sets of
-// constants (including equal ones, and for 32f NaN, which passes the test).
-template <class T>
-struct OrderedThresholds {
-    PageEnd<T> lower, upper;
-    static std::array<T, 4> pick(int a, int b, bool upper) {
-        const PageEndConstants<T> x(a, false), y(b, false);
-        std::array<T, 4> v;
-        for (int k = 0; k < 4; ++k) {
-            const T p = x.at(k, 0), q = y.at(k, 0);
-            v[std::size_t(k)] = (q < p) == upper ? p : q;
-        }
-        return v;
-    }
-    OrderedThresholds(int a, int b) : lower(pick(a, b, false)), upper(pick(a, b, true)) {}
-};
-
-#define QVN_OUTSIDE_C1 lt[3], lv[3], ut[3], uv[3]
-#define QVN_OUTSIDE_CN(o) lt + o, lv + o, ut + o, uv + o
-
-TEST(Threshold, LTValGTValReplacesOutsideTheRange) {
+// Every form of every type and layout with thresholds t, values v, and
+// thresholds lt <= ut (or unordered with NaN, which passes the order test):
+// sets of extremes, 0, 1 and small values, and for 32f NaN, infinities,
+// signed zeros and huge values.
+TEST(Threshold, EveryFormFollowsItsRule) {
     for (int set = 0; set < 4; ++set) {
 #define X(T)                                                                                                  \
     {                                                                                                         \
-        const OrderedThresholds<Qvn##T> th(set, set + 2);                                                     \
-        const PageEndConstants<Qvn##T> lvc(set + 1, false), uvc(set + 3, false);                              \
-        const Qvn##T *lt = th.lower.data(), *ut = th.upper.data(), *lv = lvc.data(), *uv = uvc.data();        \
-        const auto model = [=](Qvn##T x, int i) { return ref::outside(x, lt[i], lv[i], ut[i], uv[i]); };      \
-        QVN_FORMS(_LTValGTVal, T, model, QVN_OUTSIDE_C1, QVN_OUTSIDE_CN, QVN_NO_C4)                           \
+        const PageEndConstants<Qvn##T> tc(set, false), vc(set + 5, false), uc(set + 2, false), wc(set + 3, false); \
+        const Qvn##T *t = tc.data(), *v = vc.data(), *uv = wc.data();                                         \
+        const Ordered<Qvn##T> lo(t, uc.data(), false), hi(t, uc.data(), true);                                \
+        const Qvn##T *lt = lo.data(), *ut = hi.data();                                                        \
+        const auto raise = [t](Qvn##T x, int i) { return ref::below(x, t[i], t[i]); };                        \
+        const auto lower = [t](Qvn##T x, int i) { return ref::above(x, t[i], t[i]); };                        \
+        const auto below = [t, v](Qvn##T x, int i) { return ref::below(x, t[i], v[i]); };                     \
+        const auto above = [t, v](Qvn##T x, int i) { return ref::above(x, t[i], v[i]); };                     \
+        const auto outside = [=](Qvn##T x, int i) { return ref::outside(x, lt[i], v[i], ut[i], uv[i]); };     \
+        QVN_FORMS(_LT, T, raise, QVN_T_C1, QVN_T_CN, QVN_NO_C4)                                               \
+        QVN_FORMS(_GT, T, lower, QVN_T_C1, QVN_T_CN, QVN_NO_C4)                                               \
+        QVN_FORMS(_LTVal, T, below, QVN_TV_C1, QVN_TV_CN, QVN_WITH_C4)                                        \
+        QVN_FORMS(_GTVal, T, above, QVN_TV_C1, QVN_TV_CN, QVN_WITH_C4)                                        \
+        QVN_FORMS(_LTValGTVal, T, outside, QVN_OUTSIDE_C1, QVN_OUTSIDE_CN, QVN_NO_C4)                         \
+        for (int op : {qvnCmpLess, qvnCmpGreater}) {                                                          \
+            const auto clamp = [&, op](Qvn##T x, int i) { return op == qvnCmpLess ? raise(x, i) : lower(x, i); }; \
+            const auto replace = [&, op](Qvn##T x, int i) { return op == qvnCmpLess ? below(x, i) : above(x, i); }; \
+            QVN_FORMS(, T, clamp, QVN_T_OP_C1, QVN_T_OP_CN, QVN_NO_C4)                                        \
+            QVN_FORMS(_Val, T, replace, QVN_TV_OP_C1, QVN_TV_OP_CN, QVN_NO_C4)                                \
+        }                                                                                                     \
     }
         QVN_TYPES(X)
 #undef X
         if (HasFailure()) return;
     }
-}
-
-// The model against the worked examples of the rules.
-TEST(Threshold, ModelMatchesWorkedExamples) {
-    EXPECT_EQ(ref::below<int>(99, 100, 0), 0);
-    EXPECT_EQ(ref::below<int>(100, 100, 0), 100);
-    const float nan = std::numeric_limits<float>::quiet_NaN();
-    EXPECT_TRUE(std::isnan(ref::below(nan, 1.0f, 1.0f)));
-    EXPECT_TRUE(std::signbit(ref::below(-0.0f, 0.0f, 0.0f)));  // equal: kept
-    // lower value below, upper value above (whatever the lower value), the
-    // range itself kept
-    EXPECT_EQ(ref::outside<int>(49, 50, 70, 60, 2), 70);
-    EXPECT_EQ(ref::outside<int>(60, 50, 1, 60, 2), 60);
-    EXPECT_EQ(ref::outside<int>(61, 50, 1, 60, 2), 2);
 }
 
 // Operators, threshold order and their place in the order of checks; a
@@ -184,11 +123,12 @@ TEST(Threshold, FamilyChecks) {
     src.expectUnchanged();
     dst.expectUnchanged();
     dst16.expectUnchanged();
-    // AC4 reads three thresholds: a fourth past the page would fault.
-    const PageEnd<Qvn32f> lo({0, 1, 2, 3}), hi({0, 1, 2, 3});
-    GuardedImage<Qvn32f> img({5, 3, 4, 0, true, 4});
-    EXPECT_EQ(qvniThreshold_LTValGTVal_32f_AC4IR(img.data(), int(img.step()), {5, 3}, lo.data() + 1, lo.data() + 1,
-                                                 hi.data() + 1, hi.data() + 1), qvnOk);
+    // The worked example: 99 below 100 becomes 0, 100 stays.
+    const Qvn8u px[2] = {99, 100};
+    Qvn8u out[2] = {7, 7};
+    EXPECT_EQ(qvniThreshold_LTVal_8u_C1R(px, 2, out, 2, {2, 1}, 100, 0), qvnOk);
+    EXPECT_EQ(out[0], 0);
+    EXPECT_EQ(out[1], 100);
 }
 
 }  // namespace
