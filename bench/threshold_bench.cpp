@@ -139,8 +139,8 @@ QB_REGISTER("CompareEqualEps_32f_C1R", images<Qvn32f, Qvn8u>({1, 1}, {1}, [](con
 })));
 #endif
 
-// Otsu's threshold: one read of the source (the 1 x 1 destination holds the
-// level). The reference counts the histogram and follows the same steps.
+// Otsu's threshold: one read of the source, bounded by the read stream. The
+// reference counts the histogram and follows the same steps.
 #ifdef QVN_HAS_qvniComputeThreshold_Otsu_8u_C1R
 int otsuReference(const Image<Qvn8u>& s) {
     double h[256] = {};
@@ -160,10 +160,12 @@ int otsuReference(const Image<Qvn8u>& s) {
     }
     return level;
 }
-QB_REGISTER("ComputeThreshold_Otsu_8u_C1R", unary<Qvn8u, Qvn8u>(1, 1, [](const Image<Qvn8u>& s, Image<Qvn8u>& d) {
-    return qvniComputeThreshold_Otsu_8u_C1R(s.p(), s.step(), s.roi(), d.p());
-}, reference([](const Image<Qvn8u>& s, Image<Qvn8u>& d) { d.p()[0] = Qvn8u(otsuReference(s)); }),
-   Opts().range({0, 180, 1}).resized([](Size) { return Size{1, 1}; })));
+QB_REGISTER("ComputeThreshold_Otsu_8u_C1R", reduction<Qvn8u>(1, 1, [](const Image<Qvn8u>& s, double* out) {
+    Qvn8u level = 0;
+    const QvnStatus st = qvniComputeThreshold_Otsu_8u_C1R(s.p(), s.step(), s.roi(), &level);
+    out[0] = level;
+    return st;
+}, reference([](const Image<Qvn8u>& s, double* out) { out[0] = otsuReference(s); }), Opts().range({0, 180, 1})));
 #endif
 
 }  // namespace

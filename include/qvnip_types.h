@@ -190,6 +190,15 @@ enum {
     qvnInterpLanczos = 16
 };
 
+/* ---- resize ------------------------------------------------------------- */
+/* The resize spec: caller memory of the size qvniResizeGetSize reports,
+ * filled by an Init function; opaque. */
+typedef struct QvnResizeSpec QvnResizeSpec;
+/* A point of the _L functions. */
+typedef struct { QvnSizeL x; QvnSizeL y; } QvnPointL;
+/* How many pixels beyond each edge of a source image an operation reads. */
+typedef struct { Qvn32u borderLeft; Qvn32u borderTop; Qvn32u borderRight; Qvn32u borderBottom; } QvnBorderSize;
+
 /* Comparison masks hold 255 where the comparison holds and 0 elsewhere. */
 typedef int QvnCompareOp;
 enum {

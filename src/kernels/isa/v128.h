@@ -338,6 +338,9 @@ inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm_cvtepi32_ps(a.v)}; 
 inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm_cvtps_epi32(a.v)}; }
 // Converts rounding toward zero; out-of-range lanes give INT32_MIN.
 inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm_cvttps_epi32(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm_sqrt_pd(a.v)}; }
 
 // ---- type conversion and scaling ------------------------------------------------------
 // Double lanes from the low two int32 lanes (exact).
@@ -574,6 +577,62 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
     return {_mm_shuffle_epi8(a.v, _mm_loadu_si128(reinterpret_cast<const __m128i*>(table)))};
 }
 #endif
+
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a.v, _mm_setzero_si128())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) {
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+}
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+x"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is
+// NaN (minps and maxps return their second operand then).
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_or_ps(_mm_min_ps(x.v, acc.v), _mm_and_ps(_mm_cmpeq_ps(x.v, acc.v), x.v))};
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_andnot_ps(_mm_andnot_ps(x.v, _mm_cmpeq_ps(x.v, acc.v)), _mm_max_ps(x.v, acc.v))};
+}
+
+// ---- resize family ---------------------------------------------------------------------------
+// x in the low 64-bit lane, zeros above (pixels gathered in a general register).
+inline Vec<std::uint64_t> fromLow64(std::uint64_t x) { return {_mm_cvtsi64_si128(static_cast<long long>(x))}; }
+// The four 8- or 16-bit elements at p (any alignment) zero- or sign-extended
+// to 32-bit lanes: one instruction where SSE4.1 is there, unpacks otherwise.
+template <class T>
+inline Vec<std::int32_t> load4x32(const T* p) {
+    static_assert(sizeof(T) <= 2, "8- or 16-bit elements");
+    __m128i x;
+    if constexpr (sizeof(T) == 1) {
+        std::int32_t u;
+        std::memcpy(&u, p, 4);
+        x = _mm_cvtsi32_si128(u);
+    } else {
+        x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+    }
+#if QVN_TARGET_LEVEL >= 2
+    if constexpr (sizeof(T) == 1) return {std::is_signed_v<T> ? _mm_cvtepi8_epi32(x) : _mm_cvtepu8_epi32(x)};
+    else return {std::is_signed_v<T> ? _mm_cvtepi16_epi32(x) : _mm_cvtepu16_epi32(x)};
+#else
+    if constexpr (sizeof(T) == 1) {
+        static_assert(!std::is_signed_v<T>, "8u");
+        x = _mm_unpacklo_epi16(_mm_unpacklo_epi8(x, _mm_setzero_si128()), _mm_setzero_si128());
+    } else {
+        x = std::is_signed_v<T> ? _mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16) : _mm_unpacklo_epi16(x, _mm_setzero_si128());
+    }
+    return {x};
+#endif
+}
 
 }  // namespace v128
 QVN_TARGET_END

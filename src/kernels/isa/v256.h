@@ -178,6 +178,9 @@ inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm256_div_ps(a.v, b
 inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm256_div_pd(a.v, b.v)}; }
 // The same approximation as the 16-byte layer's (rcpps, eight lanes).
 inline Vec<float> rcpApprox(Vec<float> a) { return {_mm256_rcp_ps(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm256_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm256_sqrt_pd(a.v)}; }
 
 // ---- shifts ------------------------------------------------------------------------
 template <int N, class T>
@@ -462,6 +465,29 @@ inline Vec<T> reverseUnits(Vec<T> a) {
         x = _mm256_permute4x64_epi64(_mm256_shuffle_epi8(x, _mm256_broadcastsi128_si256(c)), 0x4E);
     }
     return fromBits<T>(x);
+}
+
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm256_sad_epu8(a.v, _mm256_setzero_si256())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) { return {_mm256_cvtps_pd(_mm_loadu_ps(p))}; }
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+v"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is NaN.
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm256_or_ps(_mm256_min_ps(x.v, acc.v), _mm256_and_ps(_mm256_cmp_ps(x.v, acc.v, _CMP_EQ_OQ), x.v))};
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm256_andnot_ps(_mm256_andnot_ps(x.v, _mm256_cmp_ps(x.v, acc.v, _CMP_EQ_OQ)), _mm256_max_ps(x.v, acc.v))};
 }
 
 }  // namespace v256

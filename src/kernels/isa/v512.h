@@ -190,6 +190,9 @@ inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm512_div_pd(a.v
 inline Vec<float> rcpApprox(Vec<float> a) {
     return combine(v256::rcpApprox(lowHalf(a)), v256::rcpApprox(highHalf(a)));
 }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm512_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm512_sqrt_pd(a.v)}; }
 
 // ---- shifts -----------------------------------------------------------------------------
 template <int N, class T>
@@ -512,6 +515,38 @@ inline Vec<T> reverseUnits(Vec<T> a) {
         x = _mm512_shuffle_i64x2(x, x, 0x1B);
     }
     return fromBits<T>(x);
+}
+
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm512_sad_epu8(a.v, _mm512_setzero_si512())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) { return {_mm512_cvtps_pd(_mm256_loadu_ps(p))}; }
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+v"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is
+// NaN. Without a compare: minps(x, FLT_MIN) has its sign bit set exactly for
+// a negative x (-0 included, NaN not), and that sign is ORed into
+// minps(x, acc), which then turns an equal +0 into -0 and changes nothing
+// else; maxps(x, -FLT_MIN) has it clear exactly for x >= +0, and that clears
+// the sign of maxps(x, acc).
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    const __m512i m = _mm512_castps_si512(_mm512_min_ps(x.v, acc.v));
+    const __m512i t = _mm512_castps_si512(_mm512_min_ps(x.v, _mm512_set1_ps(1.17549435e-38f)));
+    return {_mm512_castsi512_ps(_mm512_ternarylogic_epi32(m, t, _mm512_set1_epi32(INT32_MIN), 0xF8))};  // m | (t & sign)
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    const __m512i m = _mm512_castps_si512(_mm512_max_ps(x.v, acc.v));
+    const __m512i t = _mm512_castps_si512(_mm512_max_ps(x.v, _mm512_set1_ps(-1.17549435e-38f)));
+    return {_mm512_castsi512_ps(_mm512_ternarylogic_epi32(m, t, _mm512_set1_epi32(INT32_MIN), 0xD0))};  // m & (t | ~sign)
 }
 
 }  // namespace v512
