@@ -424,7 +424,9 @@ int main(int argc, char** argv) {
                      lx[2], ly[2], hi[2], hx[2], hy[2], mean[0], mean[1], mean[2]);
             writeImage("stats_extremes.png", caption, work, step, W, H, 3);
         }
+    }
 #endif
+
 #ifdef SHOW_RESIZE
     /* Resizing: a piece of the test image's rings enlarged four times, by
      * nearest neighbour and by linear interpolation. Size query, spec, work
