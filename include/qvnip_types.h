@@ -209,6 +209,12 @@ enum {
     qvnCmpGreater   = 4
 };
 
+/* ---- specs ---------------------------------------------------------------
+ * Precomputed state in caller memory of the size that the family's size
+ * query reports; the library places it at the first 64-byte boundary of that
+ * memory and never frees it. */
+typedef struct QvnFilterBorderSpec QvnFilterBorderSpec;
+
 /* ---- version record ---------------------------------------------------- */
 typedef struct {
     int         major;

@@ -37,8 +37,7 @@ checks   the leading validation order, comma separated, or '-': ptr (every
          (the named pointers), roi, step (below 1 fails), rnd or rounding
          (the QvnRounding argument), hint (the QvnAccuracyHint argument),
          step0 (only zero fails); other tokens are family checks that the
-         generic test leaves to the family's own tests (it stops at the
-         first of them, unless zero arguments pass it: PASSED_AT_ZERO)
+         generic test leaves to the family's own tests
 impl     the C++ callable that implements the name, looked up with the
          namespaces qvn and qvn::QVN_TARGET in scope;
          {T} {S} {D} expand to C types, {C} to the layout token, {IP} to
@@ -250,14 +249,13 @@ CHECK_WORDS = {
                 "width plus leftBorderWidth or lower than the source height plus topBorderHeight (qvnErrSize)"),
     "axis": "an axis other than 0, 1, 2, compared unsigned (qvnErrAxis)",
     "square": "a width different from the height (qvnErrSize)",
-    "op": "a QvnCompareOp other than qvnCmpLess or qvnCmpGreater (qvnErrBadMode)",
-    "thresholds": "an upper threshold below the lower one in any channel (qvnErrThresholdOrder)",
-    "eps": "a negative eps (qvnErrEpsilon)",
-    "widthstep": "a width greater than the step (qvnErrStep)",
 }
-# Family checks that the generic test's arguments (every value 0) pass: a
-# leading one does not end the generic order, which goes on past it.
-PASSED_AT_ZERO = {"op"}
+# Family checks that the generic test's default arguments never trip (the
+# border is 0 there, so a constant kind's value is not read; an operator of
+# 0 is qvnCmpLess): the generic order goes on past them.
+PASSIVE_CHECKS = {"bvalue", "op"}
+# Family step checks that a step of 0 or -1 fails like "step".
+STEP_CHECKS = {"dstrow", "rowsteps", "widthstep"}
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")
 
@@ -368,15 +366,15 @@ def case_text(e):
             groups.append(("Ptr", idx))
         elif tok == "ptr":
             groups.append(("Ptr", list(range(len(ptrs)))))
-        elif tok in ("step", "step0"):
-            groups.append((GROUP_KIND[tok], list(range(len(steps)))))
+        elif tok in ("step", "step0") or tok in STEP_CHECKS:
+            groups.append((GROUP_KIND.get(tok, "Step"), list(range(len(steps)))))
+        elif tok in PASSIVE_CHECKS:
+            continue
         elif tok == "roi":
             groups.append(("Roi", []))
         elif tok in ("rnd", "rounding", "hint"):
             kind, ctype = ("Hint", "QvnAccuracyHint") if tok == "hint" else ("Rounding", "QvnRounding")
             groups.append((kind, [i for i, p in enumerate(modes) if p.ctype == ctype][:1]))
-        elif tok in PASSED_AT_ZERO:
-            continue
         # other family checks (orders, constants, ...) stop the generic order here
         else:
             break

@@ -634,6 +634,45 @@ inline Vec<std::int32_t> load4x32(const T* p) {
 #endif
 }
 
+// ---- general filter and convolution (filter family) ----------------------------------------
+// The 16 bytes at p (16-byte aligned) in every 16-byte block of the vector:
+// coefficients that a spec stores once, one value per lane of a block.
+template <class T>
+inline Vec<T> loadBlock(const T* p) {
+    return loadA(p);
+}
+// kLanes<W> elements of T from p, each converted to W exactly: 8- and 16-bit
+// integers to 16- or 32-bit integers or to float, or T itself. Only the bytes
+// of those elements are read.
+template <class W, class T>
+inline Vec<W> loadExpand(const T* p) {
+    static_assert(sizeof(W) >= sizeof(T), "a widening load");
+    if constexpr (std::is_same_v<W, T>) {
+        return loadU(p);
+    } else if constexpr (std::is_same_v<W, float>) {
+        return toFloat(loadExpand<std::int32_t>(p));
+    } else if constexpr (sizeof(T) == 1 && sizeof(W) == 4) {
+        std::int32_t x;
+        std::memcpy(&x, p, 4);
+        const __m128i b = _mm_cvtsi32_si128(x), z = _mm_setzero_si128();
+        return fromBits<W>(_mm_unpacklo_epi16(_mm_unpacklo_epi8(b, z), z));
+    } else if constexpr (sizeof(T) == 1) {
+        static_assert(sizeof(W) == 2 && !std::is_signed_v<T>, "unsigned bytes to 16-bit lanes");
+        return fromBits<W>(_mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), _mm_setzero_si128()));
+    } else {
+        static_assert(sizeof(T) == 2 && sizeof(W) == 4, "16-bit to 32-bit lanes");
+        return widenLo<W>(Vec<T>{_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))});
+    }
+}
+// zipLo, zipHi and the int32-to-int16 packSat applied to each 16-byte block
+// of the vector on its own (here the vector is one block): lane pairs for
+// mulAddPairs whose sums are narrowed back to the original order.
+template <class T>
+inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) { return zipLo(a, b); }
+template <class T>
+inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
+inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
+
 }  // namespace v128
 QVN_TARGET_END
 
