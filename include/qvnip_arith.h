@@ -414,6 +414,310 @@ QVN_API QvnStatus qvniLn_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize ro
 QVN_API QvnStatus qvniLn_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize);
 QVN_API QvnStatus qvniLn_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize);
 
+/* Thresholds, channel by channel (C3 and AC4 take one threshold, and one
+ * value, per colour channel; AC4 never changes the destination's alpha, which
+ * the vector code may store back as it read it). A pixel equal to its
+ * threshold is never replaced; a comparison with a NaN is false, so NaN
+ * pixels are kept. cmpOp qvnCmpLess gives max(x, threshold) (pixels below
+ * the threshold become the threshold), qvnCmpGreater min(x, threshold).
+ * The 16u C1R, C1IR and C3R forms write with cache-bypassing stores once the
+ * destination bytes reach 262,145 and the largest cache.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); a QvnCompareOp other than
+ * qvnCmpLess or qvnCmpGreater (qvnErrBadMode). */
+QVN_API QvnStatus qvniThreshold_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, QvnCompareOp cmpOp);
+
+/* Below the threshold: max(x, threshold). The 16u C1R and C1IR forms
+ * bypass the caches as qvniThreshold does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
+QVN_API QvnStatus qvniThreshold_LT_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold);
+QVN_API QvnStatus qvniThreshold_LT_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold);
+QVN_API QvnStatus qvniThreshold_LT_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_LT_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+
+/* Above the threshold: min(x, threshold). The 16u C1R and C1IR forms
+ * bypass the caches as qvniThreshold does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
+QVN_API QvnStatus qvniThreshold_GT_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold);
+QVN_API QvnStatus qvniThreshold_GT_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold);
+QVN_API QvnStatus qvniThreshold_GT_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+QVN_API QvnStatus qvniThreshold_GT_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold);
+
+/* value where x < threshold (strictly), else x. C4 takes four thresholds and
+ * values. The 16u C1R, C1IR and C4R forms bypass the caches as qvniThreshold
+ * does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_LTVal_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+
+/* value where x > threshold (strictly), else x. The 16u C1R, C1IR and C4R
+ * forms bypass the caches as qvniThreshold does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep). */
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_C4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_C4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_C4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_C4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+QVN_API QvnStatus qvniThreshold_GTVal_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue);
+
+/* cmpOp qvnCmpLess acts as _LTVal, qvnCmpGreater as _GTVal. The operator is
+ * tested first, before the pointers. The 16u C1R, C1IR and C3R forms bypass
+ * the caches as qvniThreshold does.
+ * Checks, in order: a QvnCompareOp other than qvnCmpLess or qvnCmpGreater
+ * (qvnErrBadMode); a null pointer (qvnErrNullPointer); a width or height below
+ * 1 (qvnErrSize); a step below 1 (qvnErrStep). */
+QVN_API QvnStatus qvniThreshold_Val_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u threshold, Qvn8u value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u threshold, Qvn16u value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s threshold, Qvn16s value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f threshold, Qvn32f value, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pThreshold, const Qvn8u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pThreshold, const Qvn16u* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pThreshold, const Qvn16s* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniThreshold_Val_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pThreshold, const Qvn32f* pValue, QvnCompareOp cmpOp);
+
+/* lowerValue where x < lowerThreshold, upperValue where x > upperThreshold,
+ * else x. The 16u C1R and C3R forms bypass the caches as qvniThreshold
+ * does.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a step below 1 (qvnErrStep); an upper threshold below
+ * the lower one in any channel (qvnErrThresholdOrder). */
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn8u lowerThreshold, Qvn8u lowerValue, Qvn8u upperThreshold, Qvn8u upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_C1IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn8u lowerThreshold, Qvn8u lowerValue, Qvn8u upperThreshold, Qvn8u upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, Qvn16u lowerThreshold, Qvn16u lowerValue, Qvn16u upperThreshold, Qvn16u upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_C1IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16u lowerThreshold, Qvn16u lowerValue, Qvn16u upperThreshold, Qvn16u upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, Qvn16s lowerThreshold, Qvn16s lowerValue, Qvn16s upperThreshold, Qvn16s upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_C1IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn16s lowerThreshold, Qvn16s lowerValue, Qvn16s upperThreshold, Qvn16s upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f lowerThreshold, Qvn32f lowerValue, Qvn32f upperThreshold, Qvn32f upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_C1IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, Qvn32f lowerThreshold, Qvn32f lowerValue, Qvn32f upperThreshold, Qvn32f upperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_C3R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pLowerThreshold, const Qvn8u* pLowerValue, const Qvn8u* pUpperThreshold, const Qvn8u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_C3IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pLowerThreshold, const Qvn8u* pLowerValue, const Qvn8u* pUpperThreshold, const Qvn8u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_AC4R(const Qvn8u* pSrc, int srcStep, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn8u* pLowerThreshold, const Qvn8u* pLowerValue, const Qvn8u* pUpperThreshold, const Qvn8u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_8u_AC4IR(Qvn8u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn8u* pLowerThreshold, const Qvn8u* pLowerValue, const Qvn8u* pUpperThreshold, const Qvn8u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_C3R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pLowerThreshold, const Qvn16u* pLowerValue, const Qvn16u* pUpperThreshold, const Qvn16u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_C3IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pLowerThreshold, const Qvn16u* pLowerValue, const Qvn16u* pUpperThreshold, const Qvn16u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_AC4R(const Qvn16u* pSrc, int srcStep, Qvn16u* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16u* pLowerThreshold, const Qvn16u* pLowerValue, const Qvn16u* pUpperThreshold, const Qvn16u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16u_AC4IR(Qvn16u* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16u* pLowerThreshold, const Qvn16u* pLowerValue, const Qvn16u* pUpperThreshold, const Qvn16u* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_C3R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pLowerThreshold, const Qvn16s* pLowerValue, const Qvn16s* pUpperThreshold, const Qvn16s* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_C3IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pLowerThreshold, const Qvn16s* pLowerValue, const Qvn16s* pUpperThreshold, const Qvn16s* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_AC4R(const Qvn16s* pSrc, int srcStep, Qvn16s* pDst, int dstStep, QvnRoiSize roiSize, const Qvn16s* pLowerThreshold, const Qvn16s* pLowerValue, const Qvn16s* pUpperThreshold, const Qvn16s* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_16s_AC4IR(Qvn16s* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn16s* pLowerThreshold, const Qvn16s* pLowerValue, const Qvn16s* pUpperThreshold, const Qvn16s* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_C3R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pLowerThreshold, const Qvn32f* pLowerValue, const Qvn32f* pUpperThreshold, const Qvn32f* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_C3IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pLowerThreshold, const Qvn32f* pLowerValue, const Qvn32f* pUpperThreshold, const Qvn32f* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_AC4R(const Qvn32f* pSrc, int srcStep, Qvn32f* pDst, int dstStep, QvnRoiSize roiSize, const Qvn32f* pLowerThreshold, const Qvn32f* pLowerValue, const Qvn32f* pUpperThreshold, const Qvn32f* pUpperValue);
+QVN_API QvnStatus qvniThreshold_LTValGTVal_32f_AC4IR(Qvn32f* pSrcDst, int srcDstStep, QvnRoiSize roiSize, const Qvn32f* pLowerThreshold, const Qvn32f* pLowerValue, const Qvn32f* pUpperThreshold, const Qvn32f* pUpperValue);
+
+/* One-channel 8u masks: 255 where cmpOp(src1, src2) holds in every colour
+ * channel of the pixel (alpha of AC4 is not compared), 0 elsewhere; a
+ * comparison with a NaN is false. An operator outside qvnCmpLess ..
+ * qvnCmpGreater writes nothing and returns qvnOk.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniCompare_8u_C1R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_8u_C3R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_8u_C4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_8u_AC4R(const Qvn8u* pSrc1, int src1Step, const Qvn8u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16u_C1R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16u_C3R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16u_C4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16u_AC4R(const Qvn16u* pSrc1, int src1Step, const Qvn16u* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16s_C1R(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16s_C3R(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16s_C4R(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_16s_AC4R(const Qvn16s* pSrc1, int src1Step, const Qvn16s* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_32f_C1R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_32f_C3R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_32f_C4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompare_32f_AC4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+
+/* The same against a constant: cmpOp(src, value) (one value per colour
+ * channel for C3, C4 and AC4).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize). */
+QVN_API QvnStatus qvniCompareC_8u_C1R(const Qvn8u* pSrc, int srcStep, Qvn8u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16u_C1R(const Qvn16u* pSrc, int srcStep, Qvn16u value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16s_C1R(const Qvn16s* pSrc, int srcStep, Qvn16s value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_8u_C3R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_8u_C4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_8u_AC4R(const Qvn8u* pSrc, int srcStep, const Qvn8u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16u_C3R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16u_C4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16u_AC4R(const Qvn16u* pSrc, int srcStep, const Qvn16u* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16s_C3R(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16s_C4R(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_16s_AC4R(const Qvn16s* pSrc, int srcStep, const Qvn16s* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_32f_C3R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_32f_C4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+QVN_API QvnStatus qvniCompareC_32f_AC4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, QvnCompareOp cmpOp);
+
+/* 255 where |src1 - src2| <= eps in every colour channel (the difference in
+ * single precision under the caller's rounding, its sign bit cleared), 0
+ * elsewhere.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative eps
+ * (qvnErrEpsilon). */
+QVN_API QvnStatus qvniCompareEqualEps_32f_C1R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEps_32f_C3R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEps_32f_C4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEps_32f_AC4R(const Qvn32f* pSrc1, int src1Step, const Qvn32f* pSrc2, int src2Step, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+
+/* The same against a constant: |src - value| <= eps.
+ * Checks, in order: a null pointer (qvnErrNullPointer); a step below 1
+ * (qvnErrStep); a width or height below 1 (qvnErrSize); a negative eps
+ * (qvnErrEpsilon). */
+QVN_API QvnStatus qvniCompareEqualEpsC_32f_C1R(const Qvn32f* pSrc, int srcStep, Qvn32f value, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEpsC_32f_C3R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEpsC_32f_C4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+QVN_API QvnStatus qvniCompareEqualEpsC_32f_AC4R(const Qvn32f* pSrc, int srcStep, const Qvn32f* pValue, Qvn8u* pDst, int dstStep, QvnRoiSize roiSize, Qvn32f eps);
+
+/* Otsu's threshold of the ROI: the level k that maximises the between-class
+ * variance of levels 0..k against k+1..255 (the lowest such k), in double
+ * precision; levels at which either class weighs less than 2^-23 of the
+ * pixels take no part. 0 when no level separates two classes (an image of
+ * one level, for instance).
+ * Checks, in order: a null pointer (qvnErrNullPointer); a width or height
+ * below 1 (qvnErrSize); a width greater than the step (qvnErrStep). */
+QVN_API QvnStatus qvniComputeThreshold_Otsu_8u_C1R(const Qvn8u* pSrc, int srcStep, QvnRoiSize roiSize, Qvn8u* pThreshold);
+
 /* Two-source arithmetic: Add gives src1 + src2, Sub src2 - src1, Mul src1 * src2.
  * Integer results are multiplied by 2^-scaleFactor (ties to even) and
  * saturated. AC4 never changes the destination's alpha (the vector code may

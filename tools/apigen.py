@@ -251,11 +251,11 @@ CHECK_WORDS = {
     "square": "a width different from the height (qvnErrSize)",
 }
 # Family checks that the generic test's default arguments never trip (the
-# border is 0 there, so a constant kind's value is not read): the generic
-# order goes on past them.
-PASSIVE_CHECKS = {"bvalue"}
+# border is 0 there, so a constant kind's value is not read; an operator of
+# 0 is qvnCmpLess): the generic order goes on past them.
+PASSIVE_CHECKS = {"bvalue", "op"}
 # Family step checks that a step of 0 or -1 fails like "step".
-STEP_CHECKS = {"dstrow", "rowsteps", "boxsteps"}
+STEP_CHECKS = {"dstrow", "rowsteps", "boxsteps", "widthstep"}
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")
 

@@ -339,7 +339,8 @@ inline V<T> alphaLanes(int64_t i0) {
 
 // The row template: d[i] = kern(x[i], y[i]) over n elements, scalar head until
 // d is vector-aligned, vector body (stored by Store), scalar tail. With Keep
-// every fourth element (alpha) is left as it is.
+// every fourth element (alpha) is left as it is. y's vectors are whatever its
+// kernel takes (a vector of T, or a set of them).
 template <bool Keep, class Store, class T, class Kern, class Y>
 inline void rowWith(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
@@ -352,7 +353,7 @@ inline void rowWith(const T* x, Y y, T* d, int64_t n, Kern& kern) {
         y.start(i);
         const V<T> alpha = Keep ? alphaLanes<T>(i) : isa::zero<T>();
         if constexpr (Keep) kern.skipLanes(alpha);
-        const auto one = [&](int64_t k, V<T> yv) {
+        const auto one = [&](int64_t k, const auto& yv) {
             const V<T> r = kern.vector(isa::loadU(x + k), yv);
             if constexpr (Keep) isa::storeKeep(d + k, r, alpha);
             else Store::store(d + k, r);

@@ -50,12 +50,24 @@ struct Planes {  // K planes of w elements, one after another
     {"Convert_" #s_ #d_ "_" #form, threshold, n, n * sizeof(S), n * sizeof(D),                                      \
      QVN_ROW(qvniConvert_##s_##d_##_##form(QVN_S(S, s), w * n * sizeof(S), QVN_D(D, d), w * n * sizeof(D), {w, 1}))}
 
+#define QVN_THRESHOLD(form, n, ...)                                                                                \
+    {"Threshold" #form, 0x40001, n * 2, n * 2, n * 2,                                                              \
+     QVN_ROW(qvniThreshold##form(QVN_S(Qvn16u, s), w * n * 2, QVN_D(Qvn16u, d), w * n * 2, {w, 1}, __VA_ARGS__))}
+#define QVN_THRESHOLD_I(form, n, ...)                                                                              \
+    {"Threshold" #form, 0x40001, n * 2, 0, n * 2, QVN_ROW(qvniThreshold##form(QVN_D(Qvn16u, d), w * n * 2, {w, 1}, __VA_ARGS__))}
+#define QVN_THRESHOLD_NEVER(form, n, ...)                                                                          \
+    {"Threshold" #form, 0, n * 2, n * 2, n * 2,                                                                    \
+     QVN_ROW(qvniThreshold##form(QVN_S(Qvn16u, s), w * n * 2, QVN_D(Qvn16u, d), w * n * 2, {w, 1}, __VA_ARGS__))}
+
 template <class T>
 const T kValue[4] = {1, 2, 3, 4};
 const Qvn32u kCounts[4] = {1, 40, 0, 31};
+// Ascending thresholds, 1000 apart: the lower and upper ones of _LTValGTVal.
+const Qvn16u kLower[4] = {1000, 3000, 5000, 7000}, kUpper[4] = {2000, 4000, 6000, 8000};
 
 // Counts: bytes of the ROI for the fills and the planar copies (all planes),
-// elements for the conversions. Rows with threshold 0 must never ask.
+// elements for the conversions, bytes of the destination ROI for the 16u
+// thresholds. Rows with threshold 0 must never ask.
 const Streamer kStreamers[] = {
 #define QVN_SETS(t, T) QVN_SET(t, T, 1, 7), QVN_SET(t, T, 3, kValue<T>), QVN_SET(t, T, 4, kValue<T>)
     QVN_SETS(8u, Qvn8u), QVN_SETS(16s, Qvn16s), QVN_SETS(32s, Qvn32s), QVN_SETS(32f, Qvn32f),
@@ -78,12 +90,29 @@ const Streamer kStreamers[] = {
     {"Not_8u_C4R", 0x80001, 4, 4, 4, QVN_ROW(qvniNot_8u_C4R(s, w * 4, d, w * 4, {w, 1}))},
     {"RShiftC_32s_C4R", 0x80001, 16, 16, 16,
      QVN_ROW(qvniRShiftC_32s_C4R(QVN_S(Qvn32s, s), w * 16, kCounts, QVN_D(Qvn32s, d), w * 16, {w, 1}))},
+    // the 16u thresholds: bytes of the destination ROI
+    QVN_THRESHOLD(_16u_C1R, 1, 30000, qvnCmpLess), QVN_THRESHOLD_I(_16u_C1IR, 1, 30000, qvnCmpGreater),
+    QVN_THRESHOLD(_16u_C3R, 3, kLower, qvnCmpGreater), QVN_THRESHOLD(_GT_16u_C1R, 1, 30000),
+    QVN_THRESHOLD_I(_GT_16u_C1IR, 1, 30000), QVN_THRESHOLD(_LT_16u_C1R, 1, 30000), QVN_THRESHOLD_I(_LT_16u_C1IR, 1, 30000),
+    QVN_THRESHOLD(_GTVal_16u_C1R, 1, 30000, 7), QVN_THRESHOLD_I(_GTVal_16u_C1IR, 1, 30000, 7),
+    QVN_THRESHOLD(_GTVal_16u_C4R, 4, kLower, kValue<Qvn16u>), QVN_THRESHOLD(_LTVal_16u_C1R, 1, 30000, 7),
+    QVN_THRESHOLD_I(_LTVal_16u_C1IR, 1, 30000, 7), QVN_THRESHOLD(_LTVal_16u_C4R, 4, kLower, kValue<Qvn16u>),
+    QVN_THRESHOLD(_Val_16u_C1R, 1, 30000, 7, qvnCmpLess), QVN_THRESHOLD_I(_Val_16u_C1IR, 1, 30000, 7, qvnCmpGreater),
+    QVN_THRESHOLD(_Val_16u_C3R, 3, kLower, kValue<Qvn16u>, qvnCmpGreater),
+    QVN_THRESHOLD(_LTValGTVal_16u_C1R, 1, 1000, 7, 2000, 9),
+    QVN_THRESHOLD(_LTValGTVal_16u_C3R, 3, kLower, kValue<Qvn16u>, kUpper, kValue<Qvn16u>),
     // never: alpha layouts, other types and layouts of the same families
     {"Xor_16u_AC4R", 0, 8, 8, 8, QVN_ROW(qvniXor_16u_AC4R(QVN_S(Qvn16u, s), w * 8, QVN_S(Qvn16u, s), w * 8, QVN_D(Qvn16u, d), w * 8, {w, 1}))},
     {"Set_8u_AC4R", 0, 4, 0, 4, QVN_ROW(qvniSet_8u_AC4R(kValue<Qvn8u>, d, w * 4, {w, 1}))},
     QVN_TO_PLANES(8u, Qvn8u, 4, 0), QVN_TO_PLANES(16u, Qvn16u, 3, 0), QVN_FROM_PLANES(8u, Qvn8u, 3, 0),
     QVN_CONVERT(16s, 32f, Qvn16s, Qvn32f, AC4R, 4, 0), QVN_CONVERT(8u, 32f, Qvn8u, Qvn32f, C3R, 3, 0),
     QVN_CONVERT(8u, 16s, Qvn8u, Qvn16s, C3R, 3, 0), QVN_CONVERT(16s, 32s, Qvn16s, Qvn32s, C1R, 1, 0),
+    QVN_THRESHOLD_NEVER(_16u_AC4R, 4, kLower, qvnCmpLess), QVN_THRESHOLD_NEVER(_GT_16u_C3R, 3, kLower),
+    QVN_THRESHOLD_NEVER(_LTVal_16u_AC4R, 4, kLower, kValue<Qvn16u>),
+    {"Threshold_16u_C3IR", 0, 6, 0, 6, QVN_ROW(qvniThreshold_16u_C3IR(QVN_D(Qvn16u, d), w * 6, {w, 1}, kLower, qvnCmpLess))},
+    {"Threshold_LTValGTVal_16u_C1IR", 0, 2, 0, 2,
+     QVN_ROW(qvniThreshold_LTValGTVal_16u_C1IR(QVN_D(Qvn16u, d), w * 2, {w, 1}, 1000, 7, 2000, 9))},
+    {"Threshold_16s_C1R", 0, 2, 2, 2, QVN_ROW(qvniThreshold_16s_C1R(QVN_S(Qvn16s, s), w * 2, QVN_D(Qvn16s, d), w * 2, {w, 1}, 9, qvnCmpLess))},
 };
 
 TEST(Streaming, EveryThresholdAtItsValueAndOneBelow) {

@@ -178,6 +178,8 @@ inline const Shapes kOneShape{{37}, {2}, {-1}};
 // An elementwise function under test: destination element e of row y is
 // model(v, c) of the sources' elements v at (e, y) (for in-place forms the
 // destination's old value is the last of them), c = e % elems its channel.
+// A per-pixel function (a mask) writes one element for each pixel instead:
+// model(v, 0) of every element of the pixel, v[i * elems + c] of source i.
 // Without a model, every element whose sources and channel are equal must
 // give the same result (head, vector body and tail agree).
 template <class S, class D = S>
@@ -190,6 +192,7 @@ struct ElementCase {
     bool alpha;                      // AC4: every fourth destination element keeps its value
     int sources;                     // images of S read, the destination among them when in place
     bool inPlace;
+    bool perPixel = false;           // one destination element per pixel (elems and alpha describe the sources)
     bool anyNaN = true;              // NaN results match whatever their payloads
     int callerRounding = FE_UPWARD;  // float arithmetic follows the caller's mode: it sets FE_TONEAREST
     QvnStatus warning = qvnOk;       // the status when warns() holds for some element, qvnOk otherwise
@@ -215,7 +218,8 @@ void runElementCase(const ElementCase<S, D>& c, int w, int h, int gap, std::uint
         ptr[i] = src.back()->data(), steps[i] = int(src.back()->step());
         inputs.push_back(src.back().get());
     }
-    GuardedImage<D> dst(placed(w, h, c.elems, gap, seed, own));
+    const int dstElems = c.perPixel ? 1 : c.elems;
+    GuardedImage<D> dst(placed(w, h, dstElems, gap, seed, own));
     if constexpr (std::is_same_v<S, D>)
         if (c.inPlace) c.fill(dst, seed * 8 + std::uint32_t(own)), ptr[own] = dst.data(), steps[own] = int(dst.step());
     const QvnStatus status = callUnderTest(
@@ -224,16 +228,21 @@ void runElementCase(const ElementCase<S, D>& c, int w, int h, int gap, std::uint
         c.callerRounding, bool(c.close) || !c.model,
         std::is_floating_point_v<D> && c.anyNaN ? int(sizeof(D)) : 0);
     bool warned = false;
-    expectRoi(dst, c.elems, [&](std::int64_t e, std::int64_t y) {
+    expectRoi(dst, dstElems, [&](std::int64_t e, std::int64_t y) {
         const D old = dst.saved(e, y), got = dst.at(e, y);
-        if (c.alpha && e % 4 == 3) return old;
-        S v[4] = {};
-        for (int i = 0; i < own; ++i) v[i] = src[std::size_t(i)]->at(e, y);
-        if constexpr (std::is_same_v<S, D>) v[own] = c.inPlace ? old : S();
-        const int ch = int(e % c.elems);
+        if (c.alpha && !c.perPixel && e % 4 == 3) return old;
+        S v[8] = {};
+        for (int i = 0; i < own; ++i) {
+            const GuardedImage<S>& im = *src[std::size_t(i)];
+            if (!c.perPixel) v[i] = im.at(e, y);
+            else for (int k = 0; k < c.elems; ++k) v[i * c.elems + k] = im.at(e * c.elems + k, y);
+        }
+        if constexpr (std::is_same_v<S, D>)
+            if (c.inPlace) v[own] = old;
+        const int ch = int(e % dstElems);
         warned |= c.warns && c.warns(v, ch);
         if (!c.model)
-            return seen.emplace(std::string(reinterpret_cast<const char*>(v), sizeof(S) * 4) + char(ch), got).first->second;
+            return seen.emplace(std::string(reinterpret_cast<const char*>(v), sizeof v) + char(ch), got).first->second;
         const D want = c.model(v, ch);
         return c.close && c.close(got, want) ? got : want;
     }, c.name + " seed " + std::to_string(seed), c.anyNaN);

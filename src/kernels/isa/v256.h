@@ -250,6 +250,8 @@ template <class T>
 inline bool anyTrue(Vec<T> m) { return _mm256_movemask_epi8(bits(m)) != 0; }
 template <class T>
 inline bool allTrue(Vec<T> m) { return _mm256_movemask_epi8(bits(m)) == -1; }
+// Threshold and compare family: a <= b, false where either is NaN.
+inline Vec<float> cmpLe(Vec<float> a, Vec<float> b) { return {_mm256_cmp_ps(a.v, b.v, _CMP_LE_OS)}; }
 
 // ---- min / max ------------------------------------------------------------------------
 inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm256_min_epu8(a.v, b.v)}; }

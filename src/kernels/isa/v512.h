@@ -264,6 +264,10 @@ template <class T>
 inline bool anyTrue(Vec<T> m) { return byteMask(m) != 0; }
 template <class T>
 inline bool allTrue(Vec<T> m) { return byteMask(m) == ~std::uint64_t(0); }
+// Threshold and compare family: a <= b, false where either is NaN.
+inline Vec<float> cmpLe(Vec<float> a, Vec<float> b) {
+    return fromMask<float>(_mm512_cmp_ps_mask(a.v, b.v, _CMP_LE_OS));
+}
 
 // ---- min / max ---------------------------------------------------------------------------
 inline Vec<std::uint8_t> min(Vec<std::uint8_t> a, Vec<std::uint8_t> b) { return {_mm512_min_epu8(a.v, b.v)}; }
