@@ -632,6 +632,20 @@ inline Vec<std::int32_t> load4x32(const T* p) {
 #endif
 }
 
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane, for lanes within +-2^31 (the
+// caller clamps): SSE3 truncates and steps down where that rounded up;
+// SSE4.1 (the wider targets) has the instruction. A -0 lane may come back
+// as +0 on the baseline: callers pass no -0.
+inline Vec<double> floor(Vec<double> a) {
+#if QVN_TARGET_LEVEL >= 2
+    return {_mm_floor_pd(a.v)};
+#else
+    const __m128d t = _mm_cvtepi32_pd(_mm_cvttpd_epi32(a.v));
+    return {_mm_sub_pd(t, _mm_and_pd(_mm_cmpgt_pd(t, a.v), _mm_set1_pd(1.0)))};
+#endif
+}
+
 }  // namespace v128
 QVN_TARGET_END
 

@@ -488,6 +488,11 @@ inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
     return {_mm256_andnot_ps(_mm256_andnot_ps(x.v, _mm256_cmp_ps(x.v, acc.v, _CMP_EQ_OQ)), _mm256_max_ps(x.v, acc.v))};
 }
 
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane (the 16-byte layer's meaning for
+// lanes within +-2^31).
+inline Vec<double> floor(Vec<double> a) { return {_mm256_floor_pd(a.v)}; }
+
 }  // namespace v256
 QVN_TARGET_END
 

@@ -545,6 +545,11 @@ inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
     return {_mm512_castsi512_ps(_mm512_ternarylogic_epi32(m, t, _mm512_set1_epi32(INT32_MIN), 0xD0))};  // m & (t | ~sign)
 }
 
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane (the 16-byte layer's meaning for
+// lanes within +-2^31).
+inline Vec<double> floor(Vec<double> a) { return {_mm512_roundscale_pd(a.v, _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC)}; }
+
 }  // namespace v512
 QVN_TARGET_END
 
