@@ -199,6 +199,14 @@ typedef struct { QvnSizeL x; QvnSizeL y; } QvnPointL;
 /* How many pixels beyond each edge of a source image an operation reads. */
 typedef struct { Qvn32u borderLeft; Qvn32u borderTop; Qvn32u borderRight; Qvn32u borderBottom; } QvnBorderSize;
 
+/* ---- affine warp --------------------------------------------------------- */
+/* The affine warp spec: caller memory of the size qvniWarpAffineGetSize
+ * reports, filled by a qvniWarpAffine*Init function; opaque. */
+typedef struct QvnWarpAffineSpec QvnWarpAffineSpec;
+/* Warp direction: the coefficients map source to destination (forward) or
+ * destination to source (backward). */
+enum { qvnWarpForward = 0, qvnWarpBackward = 1 };
+
 /* Comparison masks hold 255 where the comparison holds and 0 elsewhere. */
 typedef int QvnCompareOp;
 enum {

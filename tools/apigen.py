@@ -102,15 +102,18 @@ class Param:
     """One declared parameter: its C type, name and role in the generic test."""
 
     def __init__(self, raw, values):
-        m = re.match(r"^(.*?)(\w+)\s*(\[\d*\])?$", raw)
+        m = re.match(r"^(.*?)(\w+)\s*((?:\[\d*\])*)$", raw)
         if not m:
             raise TableError(f"cannot read parameter {raw!r}")
         rawtype = m.group(1).strip()
         self.decl = subst(raw, values)
         self.name = m.group(2)
-        self.ctype = subst(rawtype, values) + ("*" if m.group(3) else "")
+        dims = re.findall(r"\[\d*\]", m.group(3))
+        # an array parameter is a pointer to its first element (of a row, for
+        # two dimensions: coeffs[2][3] is a pointer to arrays of three)
+        self.ctype = subst(rawtype, values) + ("".join(["(*)"] + dims[1:]) if len(dims) > 1 else "*" if dims else "")
         # an array of pointers (planes): the generic test faults each entry too
-        self.entries = int(m.group(3)[1:-1] or 0) if m.group(3) and "*" in rawtype else 0
+        self.entries = int(dims[0][1:-1] or 0) if len(dims) == 1 and "*" in rawtype else 0
         if "*" in self.ctype:
             self.role = "ptr"
         elif rawtype == "{step}":

@@ -61,28 +61,34 @@ inline v128::Vec<float> four(const T* p) {
     else return toFloat(load4x32(p));
 }
 
-// The two taps of four columns as float lanes: (a0, b0, a1, b1), (a2, b2, a3, b3).
+// The two taps at p[k] and p[k] + 1 of four pixels as float lanes: (a0, b0,
+// a1, b1), (a2, b2, a3, b3). Reads exactly the eight elements.
 template <class T>
-inline void tapPairs(const T* row, const std::int32_t* o, v128::Vec<float>& lo, v128::Vec<float>& hi) {
+inline void tapPairs(const T* const p[4], v128::Vec<float>& lo, v128::Vec<float>& hi) {
     using namespace v128;
     if constexpr (std::is_same_v<T, float>) {
-        lo = loadHalves(row + o[0], row + o[1]);
-        hi = loadHalves(row + o[2], row + o[3]);
+        lo = loadHalves(p[0], p[1]);
+        hi = loadHalves(p[2], p[3]);
     } else if constexpr (sizeof(T) == 1) {
-        const std::uint64_t q = bytesAt(row + o[0], 2) | bytesAt(row + o[1], 2) << 16 | bytesAt(row + o[2], 2) << 32 |
-                                bytesAt(row + o[3], 2) << 48;
+        const std::uint64_t q = bytesAt(p[0], 2) | bytesAt(p[1], 2) << 16 | bytesAt(p[2], 2) << 32 | bytesAt(p[3], 2) << 48;
         const Vec<std::uint16_t> w = widenLo<std::uint16_t>(cast<std::uint8_t>(fromLow64(q)));
         lo = toFloat(cast<std::int32_t>(widenLo<std::uint32_t>(w)));
         hi = toFloat(cast<std::int32_t>(widenHi<std::uint32_t>(w)));
     } else {
         using W = std::conditional_t<std::is_signed_v<T>, std::int32_t, std::uint32_t>;
         const auto pair = [&](int k) {
-            const std::uint64_t q = bytesAt(row + o[k], 4) | bytesAt(row + o[k + 1], 4) << 32;
+            const std::uint64_t q = bytesAt(p[k], 4) | bytesAt(p[k + 1], 4) << 32;
             return toFloat(cast<std::int32_t>(widenLo<W>(cast<T>(fromLow64(q)))));
         };
         lo = pair(0);
         hi = pair(2);
     }
+}
+// The same for four columns of one row at element offsets o.
+template <class T>
+inline void tapPairs(const T* row, const std::int32_t* o, v128::Vec<float>& lo, v128::Vec<float>& hi) {
+    const T* const p[4] = {row + o[0], row + o[1], row + o[2], row + o[3]};
+    tapPairs(p, lo, hi);
 }
 
 // Float (or double for 64f) interpolation across: out[x * K + c] =

@@ -20,6 +20,8 @@
 
 #include <gtest/gtest.h>
 
+#include "qvnip_types.h"
+
 namespace qvn::test {
 
 struct Layout {
@@ -94,6 +96,27 @@ public:
     }
     void expectUntouchedOutsideRoi() const { EXPECT_EQ(changedOutsideRoi(), ""); }
     void expectUnchanged() const { EXPECT_EQ(changedAnywhere(), ""); }
+};
+
+// Exactly n bytes that end where an inaccessible page begins (and are
+// poisoned around under AddressSanitizer): a spec or work buffer that the
+// library must not overrun.
+class ExactBuffer {
+public:
+    explicit ExactBuffer(std::int64_t n, std::uint32_t seed = 5) : b_(1, Layout{n, 1, 1, 0, true, seed}) {}
+    unsigned char* p() const { return b_.first(); }
+    // The buffer as a spec.
+    QvnResizeSpec* spec() const { return reinterpret_cast<QvnResizeSpec*>(p()); }
+    QvnWarpAffineSpec* warpSpec() const { return reinterpret_cast<QvnWarpAffineSpec*>(p()); }
+    // The word of type W at byte offset i of the spec, which starts at the first 64-byte boundary.
+    template <class W = std::int32_t>
+    W& word(int i) const {
+        const auto at = (reinterpret_cast<std::uintptr_t>(p()) + 63) & ~std::uintptr_t(63);
+        return *reinterpret_cast<W*>(at + std::uintptr_t(i));
+    }
+
+private:
+    GuardedBuffer b_;
 };
 
 }  // namespace qvn::test

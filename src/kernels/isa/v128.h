@@ -689,6 +689,19 @@ inline Vec<T> repeatLastPixel(Vec<T> a) {
     static_assert(sizeof(T) == 4 && C >= 1 && C <= 4, "32-bit lanes, 1 to 4 channels");
     constexpr int l0 = 4 - C, l1 = 4 - C + 1 % C, l2 = 4 - C + 2 % C, l3 = 4 - C + 3 % C;
     return fromBits<T>(_mm_shuffle_epi32(bits(a), (l3 << 6) | (l2 << 4) | (l1 << 2) | l0));
+
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane, for lanes within +-2^31 (the
+// caller clamps): SSE3 truncates and steps down where that rounded up;
+// SSE4.1 (the wider targets) has the instruction. A -0 lane may come back
+// as +0 on the baseline: callers pass no -0.
+inline Vec<double> floor(Vec<double> a) {
+#if QVN_TARGET_LEVEL >= 2
+    return {_mm_floor_pd(a.v)};
+#else
+    const __m128d t = _mm_cvtepi32_pd(_mm_cvttpd_epi32(a.v));
+    return {_mm_sub_pd(t, _mm_and_pd(_mm_cmpgt_pd(t, a.v), _mm_set1_pd(1.0)))};
+#endif
 }
 
 }  // namespace v128

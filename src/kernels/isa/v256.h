@@ -557,6 +557,11 @@ inline Vec<T> repeatLastPixel(Vec<T> a) {
     return fromBits<T>(_mm256_permutevar8x32_epi32(bits(a), idx));
 }
 
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane (the 16-byte layer's meaning for
+// lanes within +-2^31).
+inline Vec<double> floor(Vec<double> a) { return {_mm256_floor_pd(a.v)}; }
+
 }  // namespace v256
 QVN_TARGET_END
 

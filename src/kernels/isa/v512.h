@@ -611,6 +611,11 @@ inline Vec<T> repeatLastPixel(Vec<T> a) {
     return fromBits<T>(_mm512_permutexvar_epi32(idx, bits(a)));
 }
 
+// ---- warp family ---------------------------------------------------------------------------
+// The largest integer not above each lane (the 16-byte layer's meaning for
+// lanes within +-2^31).
+inline Vec<double> floor(Vec<double> a) { return {_mm512_roundscale_pd(a.v, _MM_FROUND_TO_NEG_INF | _MM_FROUND_NO_EXC)}; }
+
 }  // namespace v512
 QVN_TARGET_END
 
