@@ -6,5 +6,6 @@
 #include "qvnip_arith.h"
 #include "qvnip_core.h"
 #include "qvnip_move.h"
+#include "qvnip_transform.h"
 
 #endif /* QVNIP_H */

@@ -200,6 +200,21 @@ enum {
     qvnCmpGreater   = 4
 };
 
+/* Normalisation of the FFT and DFT (the flag of their size queries and
+ * initialisers): each axis of length N multiplies the forward or the inverse
+ * result by the factor named, so that the 2D factor is the product. */
+enum {
+    qvnFftDivFwdByN  = 1, /* forward times 1/N, inverse times 1 */
+    qvnFftDivInvByN  = 2, /* forward times 1, inverse times 1/N */
+    qvnFftDivBySqrtN = 4, /* both times 1/sqrt(N) */
+    qvnFftNoDivByAny = 8  /* neither */
+};
+
+/* Specs of the 2D FFT and DFT: caller memory of the size their query
+ * returns, built by their initialiser (opaque). */
+typedef struct QvnFftSpec QvnFftSpec;
+typedef struct QvnDftSpec QvnDftSpec;
+
 /* ---- version record ---------------------------------------------------- */
 typedef struct {
     int         major;

@@ -229,6 +229,16 @@ CHECK_WORDS = {
                 "width plus leftBorderWidth or lower than the source height plus topBorderHeight (qvnErrSize)"),
     "axis": "an axis other than 0, 1, 2, compared unsigned (qvnErrAxis)",
     "square": "a width different from the height (qvnErrSize)",
+    "fftorder31": "an order of 31 or more along either axis (qvnErrFftOrder)",
+    "fftorder": ("an order above 30, or above 28 along a complex axis or the columns of a real transform "
+              "(qvnErrFftOrder)"),
+    "flag": "a flag other than 1, 2, 4, 8 (qvnErrFftFlag)",
+    "overflow": "a size above 2^31-1 bytes (qvnErrSizeOverflow)",
+    "initbuf": "a null pMemInit where the init buffer is not of size 0 (qvnErrNullPointer)",
+    "spec": "a spec of another kind (qvnErrBadSpec)",
+    "imgptr": "a null image or work-buffer pointer (qvnErrNullPointer)",
+    "width": "a width below 1 (qvnErrSize)",
+    "channels13": "a channel count other than 1 or 3 (qvnErrChannelCount)",
 }
 UNCHECKED_STEPS = ("Steps are not checked: a negative step walks the rows upward, 0 repeats one row, "
                    "a step shorter than a row overlaps rows (\"steps\" in qvnip_types.h).")

@@ -573,6 +573,23 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
 }
 #endif
 
+// ---- frequency transforms ------------------------------------------------------------
+// The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
+inline void transposeSquare(Vec<float> r[4]) { _MM_TRANSPOSE4_PS(r[0].v, r[1].v, r[2].v, r[3].v); }
+// Two vectors of interleaved pairs (a0 b0 a1 b1 ...) to the a's and the b's,
+// in whole-vector order, and back.
+inline void deinterleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    out[0] = {_mm_shuffle_ps(in[0].v, in[1].v, 0x88)};
+    out[1] = {_mm_shuffle_ps(in[0].v, in[1].v, 0xDD)};
+}
+inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    out[0] = {_mm_unpacklo_ps(in[0].v, in[1].v)};
+    out[1] = {_mm_unpackhi_ps(in[0].v, in[1].v)};
+}
+// Correctly rounded square roots.
+inline Vec<float> sqrt(Vec<float> a) { return {_mm_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm_sqrt_pd(a.v)}; }
+
 }  // namespace v128
 QVN_TARGET_END
 
