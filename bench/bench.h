@@ -173,6 +173,7 @@ std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol)
 struct Case {
     std::function<void()> ours;
     std::function<void()> peer;  // empty when the operation has no peer
+    std::function<void()> fftw;  // a second peer, FFTW, for the transforms; usually empty
     // Runs each side once and compares; returns empty on agreement, else what differed.
     std::function<std::string()> check;
     double bytes = 0;       // read plus written by one call; 0: not memory bound
@@ -182,15 +183,32 @@ struct Case {
 
 using Factory = std::function<std::unique_ptr<Case>(Size)>;
 
+// The sizes of the output checks (--check): row ends and steps of odd sizes.
+inline const std::vector<Size> kCheckSizes = {{1, 1}, {37, 5}, {130, 17}};
+
 struct OpDef {
     std::string name;
-    Peer peer = Peer::None;
+    Peer peer = Peer::None;  // OpenCV (the peer column) or none
     Factory make;
+    bool fftw = false;            // the case also times FFTW (Case::fftw)
+    std::vector<Size> sizes;      // the timed sizes: kSizes when empty
+    std::vector<Size> checkSizes = kCheckSizes;
+    std::vector<Size> timedSizes() const { return sizes.empty() ? std::vector<Size>(std::begin(kSizes), std::end(kSizes)) : sizes; }
 };
 
 std::vector<OpDef>& registry();
 inline bool registerOp(std::string name, std::pair<Peer, Factory> def) {
-    registry().push_back({std::move(name), def.first, std::move(def.second)});
+    OpDef op;
+    op.name = std::move(name);
+    op.peer = def.first;
+    op.make = std::move(def.second);
+    registry().push_back(std::move(op));
+    return true;
+}
+// An operation with sizes of its own (transforms of power-of-two sides).
+inline bool registerOp(std::string name, OpDef def) {
+    def.name = std::move(name);
+    registry().push_back(std::move(def));
     return true;
 }
 

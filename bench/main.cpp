@@ -82,6 +82,9 @@ struct Settings {
     int repetitions() const { return quick ? 3 : 5; }
 };
 
+// Size index `size` of operation op.
+Size sizeOf(std::size_t op, std::size_t size) { return registry()[op].timedSizes()[size]; }
+
 // Cases are built when their first benchmark runs and dropped when the next
 // operation starts, so that only one operation's images are alive at a time.
 // Building a case runs its output check.
@@ -98,8 +101,8 @@ public:
             key_ = key;
             // Progress on a terminal only, on one line; logs stay clean.
             if (isatty(2))
-                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(kSizes[size])).c_str());
-            entry_.c = registry()[op].make(kSizes[size]);
+                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(sizeOf(op, size))).c_str());
+            entry_.c = registry()[op].make(sizeOf(op, size));
             entry_.error = checkEveryTarget(*entry_.c);
             facts_[key] = {entry_.c->bytes, entry_.c->inPlace};
         }
@@ -122,14 +125,16 @@ CaseCache& cache() {
     return c;
 }
 
-// What a benchmark times: the peer, or our side with one build target.
-inline constexpr int kPeerSide = -1;
+// What a benchmark times: the peer, FFTW, or our side with one build target.
+inline constexpr int kPeerSide = -1, kFftwSide = -2;
 
 const char* peerName(Peer p) { return p == Peer::Fftw ? "fftw" : "opencv"; }
 
 std::string benchName(const OpDef& op, Size z, int side) {
     return op.name + "/" + sizeName(z) + "/" +
-           (side == kPeerSide ? std::string(peerName(op.peer)) : std::string("ours-") + kTargetNames[side]);
+           (side == kPeerSide   ? std::string(peerName(op.peer))
+            : side == kFftwSide ? std::string("fftw")
+                                : std::string("ours-") + kTargetNames[side]);
 }
 
 void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
@@ -140,8 +145,8 @@ void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
         }
         return;
     }
-    const std::function<void()>& fn = side == kPeerSide ? e.c->peer : e.c->ours;
-    withTarget(side == kPeerSide ? targets().ours : side, [&] {
+    const std::function<void()>& fn = side == kPeerSide ? e.c->peer : side == kFftwSide ? e.c->fftw : e.c->ours;
+    withTarget(side < 0 ? targets().ours : side, [&] {
         for (auto _ : st) {
             fn();
             benchmark::ClobberMemory();
@@ -243,11 +248,10 @@ Settings parseArgs(int& argc, char** argv) {
 // Every case's output check at sizes that exercise row ends and steps, the
 // two timed sizes excepted (the timed run checks those itself).
 int checkAll(const Settings& s) {
-    static const Size sizes[] = {{1, 1}, {37, 5}, {130, 17}};
     int failures = 0, cases = 0;
     for (const OpDef& op : registry()) {
         if (op.name.find(s.filter) == std::string::npos) continue;
-        for (Size z : sizes) {
+        for (Size z : op.checkSizes) {
             ++cases;
             const std::string error = checkEveryTarget(*op.make(z));
             if (!error.empty()) {
@@ -304,13 +308,17 @@ int main(int argc, char** argv) {
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
         ++selected;
-        for (std::size_t z = 0; z < std::size(kSizes); ++z) {
+        const std::vector<Size> sizes = ops[o].timedSizes();
+        for (std::size_t z = 0; z < sizes.size(); ++z) {
             for (int tg : targets().timed)
-                add(benchName(ops[o], kSizes[z], tg), s,
+                add(benchName(ops[o], sizes[z], tg), s,
                     [o, z, tg](benchmark::State& t) { runCase(t, o, z, tg); });
             if (ops[o].peer != Peer::None)
-                add(benchName(ops[o], kSizes[z], kPeerSide), s,
+                add(benchName(ops[o], sizes[z], kPeerSide), s,
                     [o, z](benchmark::State& t) { runCase(t, o, z, kPeerSide); });
+            if (ops[o].fftw)
+                add(benchName(ops[o], sizes[z], kFftwSide), s,
+                    [o, z](benchmark::State& t) { runCase(t, o, z, kFftwSide); });
         }
     }
 
@@ -344,8 +352,9 @@ int main(int argc, char** argv) {
     bool failed = false;
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
-        for (std::size_t zi = 0; zi < std::size(kSizes); ++zi) {
-            const Size z = kSizes[zi];
+        const std::vector<Size> sizes = ops[o].timedSizes();
+        for (std::size_t zi = 0; zi < sizes.size(); ++zi) {
+            const Size z = sizes[zi];
             Row row;
             row.op = ops[o].name;
             row.size = sizeName(z);
@@ -360,6 +369,7 @@ int main(int argc, char** argv) {
                 const double t = collector.seconds(benchName(ops[o], z, kPeerSide)) * 1e9 / pixels;
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
+            if (ops[o].fftw) row.fftw = collector.seconds(benchName(ops[o], z, kFftwSide)) * 1e9 / pixels;
             const auto [bytes, inPlace] = cache().facts(o, zi);
             const BandwidthRow& b = bw[sizeName(z)];
             if (bytes > 0) row.bound = bytes / ((inPlace ? b.rmw : b.copy) * kGB) * 1e9 / pixels;
