@@ -59,53 +59,37 @@ inline void rowGroups(const Channel& c, std::int64_t h, Fn&& fn) {
     }
 }
 
-// Real rows of width w to packed row spectra.
-inline void realRowsForward(const Spec1D& xs, const Channel& c, std::int64_t w, std::int64_t h, float* buf) {
-    const Factor k(xs, false);
+// Real rows of width w to packed row spectra, or back. Even widths go
+// through the complex transform of w/2 with the real steps around it, odd
+// ones through the complex transform of w (zero imaginary parts).
+inline void realRows(const Spec1D& xs, const Channel& c, std::int64_t w, std::int64_t h, float* buf, bool inverse) {
+    const Factor k(xs, inverse);
+    const bool even = w % 2 == 0;
+    const CPlan& plan = even ? xs.half : xs.full;
+    const float* tw = kf::at<float>(bytesOf(xs), xs.realTw);
+    const std::int64_t stride = even ? 8 : kf::kElem;  // floats from one value of a sequence to the next
     rowGroups(c, h, [&](const float* const* in, float* const* out, int count) {
         if (w == 1) {
             for (int l = 0; l < count; ++l) out[l][0] = in[l][0];
-        } else if (w % 2 == 0) {
-            float* data = buf;
-            float* work = buf + 8 * w;
-            kf::gatherRows(in, count, c.elems, w, data, 8);
-            float* z = kf::run(xs.half, bytesOf(xs), data, work, kf::kForward);
-            float* packed = z == data ? work : data;
-            kf::realForwardPost(z, packed, w / 2, kf::at<float>(bytesOf(xs), xs.realTw));
-            kf::scatterRows(packed, 8, w, out, count, c.elems, k.on, k.f);
-        } else {
-            float* data = buf;
-            float* work = buf + kf::kElem * w;
-            kf::gatherRows(in, count, c.elems, w, data, kf::kElem);
-            for (std::int64_t j = 0; j < w; ++j) std::memset(data + kf::kElem * j + 8, 0, 8 * sizeof(float));
-            float* x = kf::run(xs.full, bytesOf(xs), data, work, kf::kForward);
-            float* packed = x == data ? work : data;
-            kf::oddForwardPack(x, packed, w);
-            kf::scatterRows(packed, 8, w, out, count, c.elems, k.on, k.f);
+            return;
         }
-    });
-}
-
-// Packed row spectra back to real rows.
-inline void realRowsInverse(const Spec1D& xs, const Channel& c, std::int64_t w, std::int64_t h, float* buf) {
-    const Factor k(xs, true);
-    rowGroups(c, h, [&](const float* const* in, float* const* out, int count) {
-        if (w == 1) {
-            for (int l = 0; l < count; ++l) out[l][0] = in[l][0];
-        } else if (w % 2 == 0) {
-            float* data = buf;
-            float* work = buf + 8 * w;
-            kf::gatherRows(in, count, c.elems, w, work, 8);
-            kf::realInversePre(work, data, w / 2, kf::at<float>(bytesOf(xs), xs.realTw));
-            const float* z = kf::run(xs.half, bytesOf(xs), data, work, kf::kInverse);
-            kf::scatterRows(z, 8, w, out, count, c.elems, k.on, k.f);
+        float* data = buf;
+        float* work = buf + stride * w;
+        if (!inverse) {
+            kf::gatherRows(in, count, c.elems, w, data, stride);
+            if (!even)
+                for (std::int64_t j = 0; j < w; ++j) std::memset(data + kf::kElem * j + 8, 0, 8 * sizeof(float));
+            const float* x = kf::run(plan, bytesOf(xs), data, work, kf::kForward);
+            float* packed = x == data ? work : data;
+            if (even) kf::realForwardPost(x, packed, w / 2, tw);
+            else kf::oddForwardPack(x, packed, w);
+            kf::scatterRows(packed, 8, w, out, count, c.elems, k.on, k.f);
         } else {
-            float* data = buf;
-            float* work = buf + kf::kElem * w;
             kf::gatherRows(in, count, c.elems, w, work, 8);
-            kf::oddInverseUnpack(work, data, w);
-            const float* x = kf::run(xs.full, bytesOf(xs), data, work, kf::kInverse);
-            kf::scatterRows(x, kf::kElem, w, out, count, c.elems, k.on, k.f);
+            if (even) kf::realInversePre(work, data, w / 2, tw);
+            else kf::oddInverseUnpack(work, data, w);
+            const float* x = kf::run(plan, bytesOf(xs), data, work, kf::kInverse);
+            kf::scatterRows(x, stride, w, out, count, c.elems, k.on, k.f);
         }
     });
 }
@@ -276,11 +260,11 @@ inline QvnStatus realTransform(const Qvn32f* src, std::int64_t srcStep, Qvn32f* 
     float* buf = reinterpret_cast<float*>(spec::alignUp64(pBuffer));
     for (int ch = 0; ch < L::kChannels; ++ch) {
         if (!Inverse) {
-            realRowsForward(*s->xSpec, {src, srcStep, dst, dstStep, L::kElems, ch}, w, h, buf);
+            realRows(*s->xSpec, {src, srcStep, dst, dstStep, L::kElems, ch}, w, h, buf, false);
             realColumnsForward(*s->ySpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, w, h, buf);
         } else {
             realColumnsInverse(*s->ySpec, {src, srcStep, dst, dstStep, L::kElems, ch}, w, h, buf);
-            realRowsInverse(*s->xSpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, w, h, buf);
+            realRows(*s->xSpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, w, h, buf, true);
         }
     }
     return qvnOk;
