@@ -346,6 +346,9 @@ TEST(FftDft, SizeQueriesCheckOrdersFlagsAndSizes) {
     // the complex work buffer holds a block of 8 complex columns besides the column transform's own
     ASSERT_EQ(qvniFFTGetSize_C_32fc(3, 6, 8, 0, &a, &b, &c), qvnOk);
     EXPECT_EQ(b, 0) << "the FFT needs no init buffer";
+    int a2, b2, c2;
+    ASSERT_EQ(qvniFFTGetSize_C_32fc(3, 6, 8, 0x7FFFFFFF, &a2, &b2, &c2), qvnOk) << "the hint is not checked";
+    EXPECT_EQ(a2, a);
     EXPECT_EQ(c % 64, 0);
     EXPECT_GT(c, 64 * 64);
     EXPECT_EQ(a % 64, 0);
