@@ -1,4 +1,4 @@
-// The transforms' vector kernels: Stockham passes of radix 2, 3, 4, 5, 7 and
+// The transforms' vector kernels: Stockham passes of radix 2, 3, 4, 5, 7, 8 and
 // any odd prime up to kMaxRadix, Bluestein's algorithm, the steps that turn
 // a complex transform of half the length into a real one and back, and the
 // moves between image rows or columns and a batch.
@@ -94,6 +94,24 @@ struct Radix4 {
     }
 };
 
+// Radix 8 as two of 4 after a first step of 2: the sums of legs k and
+// k + 4 give the even outputs, their differences times e^(-2 pi i k / 8)
+// the odd ones.
+struct Radix8 {
+    static constexpr int kR = 8;
+    void operator()(Cx* x) const {
+        const F c = fv::set1(0.70710678118654752440f);
+        Cx a[4], b[4];
+        for (int k = 0; k < 4; ++k) a[k] = add(x[k], x[k + 4]), b[k] = sub(x[k], x[k + 4]);
+        b[1] = {fv::mul(fv::add(b[1].re, b[1].im), c), fv::mul(fv::sub(b[1].im, b[1].re), c)};
+        b[2] = mulNegI(b[2]);
+        b[3] = {fv::mul(fv::sub(b[3].im, b[3].re), c), neg(fv::mul(fv::add(b[3].re, b[3].im), c))};
+        Radix4{}(a);
+        Radix4{}(b);
+        for (int k = 0; k < 4; ++k) x[2 * k] = a[k], x[2 * k + 1] = b[k];
+    }
+};
+
 // Odd radix R (0: the run-time radix r, a prime up to kMaxRadix): legs j and
 // R - j are paired, y_u = a - i b and y_(R-u) = a + i b with
 // a = x_0 + sum_j cos(2 pi uj / R) (x_j + x_(R-j)) and
@@ -170,6 +188,7 @@ inline float* runSmooth(const fftspec::Smooth& s, const unsigned char* spec, flo
         const float* tw = at<float>(spec, p.tw);
         const float* coef = at<float>(spec, p.coef);
         switch (p.radix) {
+            case 8: pass(in, out, p, tw, d, Radix8{}); break;
             case 4: pass(in, out, p, tw, d, Radix4{}); break;
             case 2: pass(in, out, p, tw, d, Radix2{}); break;
             case 3: pass(in, out, p, tw, d, RadixOdd<3>{3, coef}); break;

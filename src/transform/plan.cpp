@@ -62,12 +62,17 @@ private:
     std::int64_t used_ = round64(sizeof(Spec1D));
 };
 
-// The radices of n: fours, a two, then odd primes up to kMaxRadix; false
-// when another prime factor remains.
+// The radices of n: eights, then fours or a two (two fours rather than an
+// eight and a two), then odd primes up to kMaxRadix; false when another
+// prime factor remains.
 bool factorize(std::int64_t n, int* radix, int& count) {
     count = 0;
-    while (n % 4 == 0) radix[count++] = 4, n /= 4;
-    if (n % 2 == 0) radix[count++] = 2, n /= 2;
+    int twos = 0;
+    while (n % 2 == 0) ++twos, n /= 2;
+    const int fours = twos % 3 == 1 && twos >= 4 ? 2 : twos % 3 == 2 ? 1 : 0;
+    for (int k = 0; k < (twos - 2 * fours) / 3; ++k) radix[count++] = 8;
+    for (int k = 0; k < fours; ++k) radix[count++] = 4;
+    if (twos == 1) radix[count++] = 2;
     for (int p = 3; p <= kMaxRadix; p += 2)
         while (n % p == 0) radix[count++] = p, n /= p;
     return n == 1;
