@@ -240,31 +240,42 @@ inline void realColumnsInverse(const Spec1D& ys, const Channel& c, std::int64_t 
                  [](float*, int) {});
 }
 
-// The spec of kind id in the caller's buffer, or null.
-inline const Spec2D* findSpec(const void* pSpec, std::uint32_t id) { return spec::find<Spec2D>(pSpec, id); }
+// What a transform works with once its arguments passed their checks.
+struct Checked {
+    const Spec2D* spec;
+    std::int64_t w, h;
+    float* buf;
+};
 
-inline std::int64_t lengthOf(const Spec2D& s, int v) {
-    return s.id == kIdFftC || s.id == kIdFftR ? std::int64_t(1) << v : std::int64_t(v);
+// The checks of every transform, in order: the spec pointer, the spec's
+// kind, the image and buffer pointers, the steps.
+inline QvnStatus check2D(const void* pSpec, std::uint32_t id, const void* src, std::int64_t srcStep, const void* dst,
+                         std::int64_t dstStep, Qvn8u* pBuffer, Checked& c) {
+    QVN_TRY(check::ptrs(pSpec));
+    c.spec = spec::find<Spec2D>(pSpec, id);
+    if (c.spec == nullptr) return qvnErrBadSpec;
+    QVN_TRY(check::ptrs(src, dst, pBuffer));
+    QVN_TRY(check::steps(srcStep, dstStep));
+    const bool fft = id == kIdFftC || id == kIdFftR;
+    c.w = fft ? std::int64_t(1) << c.spec->x : c.spec->x;
+    c.h = fft ? std::int64_t(1) << c.spec->y : c.spec->y;
+    c.buf = reinterpret_cast<float*>(spec::alignUp64(pBuffer));
+    return qvnOk;
 }
 
 // A real image (channels of E elements) to packed spectra, or back.
 template <std::uint32_t Id, class L, bool Inverse>
 inline QvnStatus realTransform(const Qvn32f* src, std::int64_t srcStep, Qvn32f* dst, std::int64_t dstStep,
                                const void* pSpec, Qvn8u* pBuffer) {
-    QVN_TRY(check::ptrs(pSpec));
-    const Spec2D* s = findSpec(pSpec, Id);
-    if (s == nullptr) return qvnErrBadSpec;
-    QVN_TRY(check::ptrs(src, dst, pBuffer));
-    QVN_TRY(check::steps(srcStep, dstStep));
-    const std::int64_t w = lengthOf(*s, s->x), h = lengthOf(*s, s->y);
-    float* buf = reinterpret_cast<float*>(spec::alignUp64(pBuffer));
+    Checked c;
+    QVN_TRY(check2D(pSpec, Id, src, srcStep, dst, dstStep, pBuffer, c));
     for (int ch = 0; ch < L::kChannels; ++ch) {
         if (!Inverse) {
-            realRows(*s->xSpec, {src, srcStep, dst, dstStep, L::kElems, ch}, w, h, buf, false);
-            realColumnsForward(*s->ySpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, w, h, buf);
+            realRows(*c.spec->xSpec, {src, srcStep, dst, dstStep, L::kElems, ch}, c.w, c.h, c.buf, false);
+            realColumnsForward(*c.spec->ySpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, c.w, c.h, c.buf);
         } else {
-            realColumnsInverse(*s->ySpec, {src, srcStep, dst, dstStep, L::kElems, ch}, w, h, buf);
-            realRows(*s->xSpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, w, h, buf, true);
+            realColumnsInverse(*c.spec->ySpec, {src, srcStep, dst, dstStep, L::kElems, ch}, c.w, c.h, c.buf);
+            realRows(*c.spec->xSpec, {dst, dstStep, dst, dstStep, L::kElems, ch}, c.w, c.h, c.buf, true);
         }
     }
     return qvnOk;
@@ -274,21 +285,16 @@ inline QvnStatus realTransform(const Qvn32f* src, std::int64_t srcStep, Qvn32f* 
 template <std::uint32_t Id, bool Inverse>
 inline QvnStatus complexTransform(const Qvn32fc* src, std::int64_t srcStep, Qvn32fc* dst, std::int64_t dstStep,
                                   const void* pSpec, Qvn8u* pBuffer) {
-    QVN_TRY(check::ptrs(pSpec));
-    const Spec2D* s = findSpec(pSpec, Id);
-    if (s == nullptr) return qvnErrBadSpec;
-    QVN_TRY(check::ptrs(src, dst, pBuffer));
-    QVN_TRY(check::steps(srcStep, dstStep));
-    const std::int64_t w = lengthOf(*s, s->x), h = lengthOf(*s, s->y);
-    float* buf = reinterpret_cast<float*>(spec::alignUp64(pBuffer));
+    Checked c;
+    QVN_TRY(check2D(pSpec, Id, src, srcStep, dst, dstStep, pBuffer, c));
     const auto* in = reinterpret_cast<const float*>(src);
     auto* out = reinterpret_cast<float*>(dst);
     if (!Inverse) {
-        complexRows(*s->xSpec, {in, srcStep, out, dstStep, 2, 0}, w, h, buf, false);
-        complexColumns(*s->ySpec, {out, dstStep, out, dstStep, 2, 0}, w, h, buf, false);
+        complexRows(*c.spec->xSpec, {in, srcStep, out, dstStep, 2, 0}, c.w, c.h, c.buf, false);
+        complexColumns(*c.spec->ySpec, {out, dstStep, out, dstStep, 2, 0}, c.w, c.h, c.buf, false);
     } else {
-        complexColumns(*s->ySpec, {in, srcStep, out, dstStep, 2, 0}, w, h, buf, true);
-        complexRows(*s->xSpec, {out, dstStep, out, dstStep, 2, 0}, w, h, buf, true);
+        complexColumns(*c.spec->ySpec, {in, srcStep, out, dstStep, 2, 0}, c.w, c.h, c.buf, true);
+        complexRows(*c.spec->xSpec, {out, dstStep, out, dstStep, 2, 0}, c.w, c.h, c.buf, true);
     }
     return qvnOk;
 }
