@@ -116,7 +116,7 @@ QVN_API QvnStatus qvniDFTInv_CToC_32fc_C1IR(Qvn32fc* pSrcDst, int srcDstStep, co
 
 /* Products of packed spectra (the layout of qvniFFTFwd_RToPack) in the
  * complex sense: each pair (columns 2u-1, 2u) and each split pair of the
- * real columns 0 and W-1 (rows 2k-1, 2k) as a complex number, the real
+ * real columns 0 and (even W) W-1 (rows 2k-1, 2k) as a complex number, the real
  * entries (rows 0 and H-1 of those columns) as reals. MulPack gives
  * src1 x src2; MulPackConj gives src1 x conj(src2), (a c + b d, b c - a d)
  * for (a, b) of src1 and (c, d) of src2 (the in-place forms write it over
