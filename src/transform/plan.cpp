@@ -243,8 +243,12 @@ struct Sizes {
     std::int64_t spec = 0, init = 0, work = 0;
 };
 
+// The length of an axis: the order's power of two for the FFT (0 for an
+// order outside 0..30, which the checks refuse before the length is used).
+std::int64_t lengthOf(bool fft, int v) { return !fft ? v : unsigned(v) <= 30u ? std::int64_t(1) << v : 0; }
+
 Shape shapeOf(bool fft, bool real, int x, int y) {
-    Shape s{fft, real, x, y, fft ? std::int64_t(1) << x : x, fft ? std::int64_t(1) << y : y, x == y, Axis::kComplex};
+    Shape s{fft, real, x, y, lengthOf(fft, x), lengthOf(fft, y), x == y, Axis::kComplex};
     s.xAxis = !real ? Axis::kComplex : s.shared ? Axis::kBoth : Axis::kReal;
     return s;
 }
