@@ -144,19 +144,20 @@ void copyPixels(const Image<T>& from, Image<T>& to) {
 }
 
 // The first difference between two images of the same shape beyond a
-// relative tolerance, as "(x, y, channel) got G want W"; empty when they agree.
+// relative tolerance (floats) or an absolute one (abs, any type), as
+// "(x, y, channel) got G want W"; empty when they agree.
 template <class T>
-std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol) {
+std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol, double abs = 0) {
     for (int y = 0; y < got.height(); ++y) {
         const T* g = got.row(y);
         const T* w = want.row(y);
         for (std::size_t i = 0; i < got.rowElems(); ++i) {
-            bool same;
+            bool same = std::fabs(double(g[i]) - double(w[i])) <= abs;
             if constexpr (std::is_floating_point_v<T>) {
-                same = (std::isnan(g[i]) && std::isnan(w[i])) || g[i] == w[i] ||
+                same = same || (std::isnan(g[i]) && std::isnan(w[i])) || g[i] == w[i] ||
                        std::fabs(double(g[i]) - double(w[i])) <= tol * std::fabs(double(w[i]));
             } else {
-                same = g[i] == w[i];
+                same = same || g[i] == w[i];
             }
             if (!same) {
                 std::ostringstream s;
@@ -178,7 +179,8 @@ struct Case {
     std::function<std::string()> check;
     double bytes = 0;       // read plus written by one call; 0: not memory bound
     bool inPlace = false;   // bounded by the read-modify-write stream, not the copy
-    double pixels = 0;
+    bool readOnly = false;  // a reduction: bounded by the read stream
+    double pixels = 0;      // times are per this many pixels: the source's, or (resize) the destination's
 };
 
 using Factory = std::function<std::unique_ptr<Case>(Size)>;
@@ -190,26 +192,30 @@ struct OpDef {
     std::string name;
     Peer peer = Peer::None;  // OpenCV (the peer column) or none
     Factory make;
-    bool fftw = false;            // the case also times FFTW (Case::fftw)
-    std::vector<Size> sizes;      // the timed sizes: kSizes when empty
-    std::vector<Size> checkSizes = kCheckSizes;
-    std::vector<Size> timedSizes() const { return sizes.empty() ? std::vector<Size>(std::begin(kSizes), std::end(kSizes)) : sizes; }
+    std::vector<Size> sizes;  // the source sizes it runs at; kSizes when empty
+    bool fftw = false;        // FFTW times the same result too (Case::fftw): the transforms
+    std::vector<Size> checkSizes = kCheckSizes;  // the sizes of --check
 };
 
 std::vector<OpDef>& registry();
-inline bool registerOp(std::string name, std::pair<Peer, Factory> def) {
+inline bool registerOp(std::string name, std::pair<Peer, Factory> def, std::vector<Size> sizes = {}) {
     OpDef op;
     op.name = std::move(name);
     op.peer = def.first;
     op.make = std::move(def.second);
+    op.sizes = std::move(sizes);
     registry().push_back(std::move(op));
     return true;
 }
-// An operation with sizes of its own (transforms of power-of-two sides).
+// An operation described whole (the transforms: FFTW, sizes to check).
 inline bool registerOp(std::string name, OpDef def) {
     def.name = std::move(name);
     registry().push_back(std::move(def));
     return true;
+}
+// The source sizes of an operation.
+inline std::vector<Size> sizesOf(const OpDef& op) {
+    return op.sizes.empty() ? std::vector<Size>(std::begin(kSizes), std::end(kSizes)) : op.sizes;
 }
 
 #define QB_CAT2(a, b) a##b
@@ -217,6 +223,10 @@ inline bool registerOp(std::string name, OpDef def) {
 // Registers an operation: QB_REGISTER("Copy_8u_C1R", unary<Qvn8u, Qvn8u>(...));
 #define QB_REGISTER(name, ...) \
     static const bool QB_CAT(qbRegistered_, __LINE__) = ::qbench::registerOp(name, __VA_ARGS__)
+// An operation timed at its own source sizes (a brace list of Size) instead
+// of kSizes: QB_REGISTER_AT("ResizeLinear_8u_C3R_to1280x720", ({{1920, 1080}}), ...);
+#define QB_REGISTER_AT(name, sizes, ...) \
+    static const bool QB_CAT(qbRegistered_, __LINE__) = ::qbench::registerOp(name, __VA_ARGS__, std::vector<::qbench::Size> sizes)
 
 // The second implementation of a case: a peer library that defines the same
 // result, or a reference written here (checked against, never timed).
@@ -316,6 +326,45 @@ std::pair<Peer, Factory> binary(int ch, Ours ours, Other<F> other, Opts opts = {
     auto o = [ours](const std::vector<Image<T>>& s, std::vector<Image<T>>& d) { return ours(s[0], s[1], d[0]); };
     auto f = [fn = other.fn](const std::vector<Image<T>>& s, std::vector<Image<T>>& d) { fn(s[0], s[1], d[0]); };
     return images<T, T>({ch, ch}, {ch}, o, Other<decltype(f)>{other.peer, f}, opts);
+}
+
+// A reduction: ours(src, out) writes `results` values (sums, extremes,
+// positions, as doubles) to out, other.fn(src, out) the expected ones;
+// compared within the relative tolerance. The source is only read, so the
+// read stream bounds it.
+template <class S, class Ours, class F>
+std::pair<Peer, Factory> reduction(int ch, int results, Ours ours, Other<F> other, Opts opts = {}) {
+    const Peer peer = other.peer;
+    Factory make = [=](Size z) {
+        auto src = std::make_shared<Image<S>>(z.w, z.h, ch);
+        auto got = std::make_shared<std::vector<double>>(results), want = std::make_shared<std::vector<double>>(results);
+        Rng rng(std::uint64_t(z.w) * 7919 + z.h);
+        fillRandom(*src, opts.ranges.empty() ? defaultRange<S>() : opts.ranges[0], rng);
+        if (opts.shape) opts.shape(0, src.get());
+        auto c = std::make_unique<Case>();
+        c->bytes = double(src->bytes());
+        c->readOnly = true;
+        c->pixels = double(z.w) * z.h;
+        c->ours = [=] { ours(*src, got->data()); };
+        if (peer != Peer::None) c->peer = [=, fn = other.fn] { fn(*src, want->data()); };
+        c->check = [=, fn = other.fn, tol = opts.tol]() -> std::string {
+            const QvnStatus st = ours(*src, got->data());
+            if (st != qvnOk) return "status " + std::to_string(st);
+            fn(*src, want->data());
+            for (int i = 0; i < results; ++i) {
+                const double g = (*got)[std::size_t(i)], w = (*want)[std::size_t(i)];
+                if (!(g == w || std::fabs(g - w) <= tol * std::fabs(w))) {
+                    std::ostringstream s;
+                    s.precision(17);
+                    s << "result " << i << " got " << g << " want " << w;
+                    return s.str();
+                }
+            }
+            return {};
+        };
+        return c;
+    };
+    return {peer, make};
 }
 
 // Every destination written by the other side, for references that fill

@@ -82,8 +82,15 @@ struct Settings {
     int repetitions() const { return quick ? 3 : 5; }
 };
 
-// Size index `size` of operation op.
-Size sizeOf(std::size_t op, std::size_t size) { return registry()[op].timedSizes()[size]; }
+// Bandwidth streams: a 4-byte-per-pixel image at each size (what the
+// operations at that size can at best stream), and buffers far larger than
+// any cache (the machine's memory). A case is bounded by the copy, the
+// read-modify-write (in place) or the read stream (reductions).
+struct Stream {
+    enum Kind { kCopy, kRmw, kRead };
+    std::string where;
+    std::size_t bytes;
+};
 
 // Cases are built when their first benchmark runs and dropped when the next
 // operation starts, so that only one operation's images are alive at a time.
@@ -100,24 +107,33 @@ public:
             entry_ = {};
             key_ = key;
             // Progress on a terminal only, on one line; logs stay clean.
+            const Size z = sizesOf(registry()[op])[size];
             if (isatty(2))
-                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(sizeOf(op, size))).c_str());
-            entry_.c = registry()[op].make(sizeOf(op, size));
+                std::fprintf(stderr, "\r  %-40s", (registry()[op].name + " " + sizeName(z)).c_str());
+            entry_.c = registry()[op].make(z);
             entry_.error = checkEveryTarget(*entry_.c);
-            facts_[key] = {entry_.c->bytes, entry_.c->inPlace};
+            facts_[key] = {entry_.c->bytes,
+                           entry_.c->inPlace ? Stream::kRmw : entry_.c->readOnly ? Stream::kRead : Stream::kCopy,
+                           entry_.c->pixels};
         }
         return entry_;
     }
-    // Bytes per call and whether the case works in place, of every case built so far.
-    std::pair<double, bool> facts(std::size_t op, std::size_t size) const {
+    // Bytes per call, the bandwidth stream that bounds the case and the
+    // pixels its times are per, of every case built so far.
+    struct Facts {
+        double bytes = 0;
+        int stream = 0;
+        double pixels = 0;
+    };
+    Facts facts(std::size_t op, std::size_t size) const {
         auto it = facts_.find({op, size});
-        return it == facts_.end() ? std::make_pair(0.0, false) : it->second;
+        return it == facts_.end() ? Facts{} : it->second;
     }
 
 private:
     std::pair<std::size_t, std::size_t> key_{~std::size_t(0), 0};
     Entry entry_;
-    std::map<std::pair<std::size_t, std::size_t>, std::pair<double, bool>> facts_;
+    std::map<std::pair<std::size_t, std::size_t>, Facts> facts_;
 };
 
 CaseCache& cache() {
@@ -156,13 +172,6 @@ void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
     st.SetItemsProcessed(std::int64_t(e.c->pixels * double(st.iterations())));  // pixels per second
 }
 
-// Bandwidth streams: a 4-byte-per-pixel image at each size (what the
-// operations at that size can at best stream), and buffers far larger than
-// any cache (the machine's memory).
-struct Stream {
-    std::string where;
-    std::size_t bytes;
-};
 
 std::vector<Stream> streams() {
     std::vector<Stream> s;
@@ -171,14 +180,15 @@ std::vector<Stream> streams() {
     return s;
 }
 
-void runStream(benchmark::State& st, std::size_t bytes, bool rmw) {
+void runStream(benchmark::State& st, std::size_t bytes, int kind) {
     BandwidthCase b(bytes);
     for (auto _ : st) {
-        if (rmw) b.rmw();
+        if (kind == Stream::kRmw) b.rmw();
+        else if (kind == Stream::kRead) b.read();
         else b.copy();
         benchmark::ClobberMemory();
     }
-    st.SetBytesProcessed(std::int64_t(b.bytesPerCall() * double(st.iterations())));
+    st.SetBytesProcessed(std::int64_t(b.bytesPerCall() / (kind == Stream::kRead ? 2 : 1) * double(st.iterations())));
 }
 
 // Keeps the fastest repetition of every case, in seconds per call; also
@@ -300,15 +310,16 @@ int main(int argc, char** argv) {
     if (s.checkOnly) return checkAll(s);
 
     for (const Stream& st : streams()) {
-        add("bandwidth/copy/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, false); });
-        add("bandwidth/rmw/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, true); });
+        add("bandwidth/copy/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kCopy); });
+        add("bandwidth/rmw/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kRmw); });
+        add("bandwidth/read/" + st.where, s, [b = st.bytes](benchmark::State& t) { runStream(t, b, Stream::kRead); });
     }
     const std::vector<OpDef>& ops = registry();
     std::size_t selected = 0;
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
         ++selected;
-        const std::vector<Size> sizes = ops[o].timedSizes();
+        const std::vector<Size> sizes = sizesOf(ops[o]);
         for (std::size_t z = 0; z < sizes.size(); ++z) {
             for (int tg : targets().timed)
                 add(benchName(ops[o], sizes[z], tg), s,
@@ -336,7 +347,7 @@ int main(int argc, char** argv) {
       << "ours:    " << v->name << " " << v->version << "\n"
       << "opencv:  " << cv::getVersionString() << ", 1 thread, " << cv::getCPUFeaturesLine() << "\n"
       << "times:   ns per pixel, fastest of " << s.repetitions() << " runs of at least " << s.minTime()
-      << " s each; bound = bytes read + written at the copy (rmw for in-place) bandwidth of the same size\n";
+      << " s each; bound = bytes read + written at the copy (rmw for in-place, read for reductions) bandwidth of the same size\n";
     r.header = h.str();
 
     const double kGB = 1e9;
@@ -344,7 +355,8 @@ int main(int argc, char** argv) {
     for (const Stream& st : streams()) {
         const double bytes = 2.0 * double(st.bytes);
         BandwidthRow b{st.where, bytes / collector.seconds("bandwidth/copy/" + st.where) / kGB,
-                       bytes / collector.seconds("bandwidth/rmw/" + st.where) / kGB};
+                       bytes / collector.seconds("bandwidth/rmw/" + st.where) / kGB,
+                       bytes / 2 / collector.seconds("bandwidth/read/" + st.where) / kGB};
         bw[st.where] = b;
         r.bandwidth.push_back(b);
     }
@@ -352,7 +364,7 @@ int main(int argc, char** argv) {
     bool failed = false;
     for (std::size_t o = 0; o < ops.size(); ++o) {
         if (ops[o].name.find(s.filter) == std::string::npos) continue;
-        const std::vector<Size> sizes = ops[o].timedSizes();
+        const std::vector<Size> sizes = sizesOf(ops[o]);
         for (std::size_t zi = 0; zi < sizes.size(); ++zi) {
             const Size z = sizes[zi];
             Row row;
@@ -360,7 +372,8 @@ int main(int argc, char** argv) {
             row.size = sizeName(z);
             const std::string ours = benchName(ops[o], z, targets().ours);
             row.error = collector.error(ours);
-            const double pixels = double(z.w) * z.h;
+            const CaseCache::Facts facts = cache().facts(o, zi);
+            const double pixels = facts.pixels > 0 ? facts.pixels : double(z.w) * z.h;
             row.ours = collector.seconds(ours) * 1e9 / pixels;
             if (targets().timed.size() > 1)
                 for (int tg : targets().timed)
@@ -370,9 +383,9 @@ int main(int argc, char** argv) {
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
             if (ops[o].fftw) row.fftw = collector.seconds(benchName(ops[o], z, kFftwSide)) * 1e9 / pixels;
-            const auto [bytes, inPlace] = cache().facts(o, zi);
             const BandwidthRow& b = bw[sizeName(z)];
-            if (bytes > 0) row.bound = bytes / ((inPlace ? b.rmw : b.copy) * kGB) * 1e9 / pixels;
+            const double gbs = facts.stream == Stream::kRmw ? b.rmw : facts.stream == Stream::kRead ? b.read : b.copy;
+            if (facts.bytes > 0 && gbs > 0) row.bound = facts.bytes / (gbs * kGB) * 1e9 / pixels;
             failed |= !row.error.empty();
             r.rows.push_back(row);
         }

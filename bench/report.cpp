@@ -65,10 +65,10 @@ constexpr Column kColumns[] = {
 // value in this run are left out.
 void printTable(std::ostream& out, const Report& r) {
     out << r.header;
-    out << "\nbandwidth (GB/s, bytes read + written) |   copy |    rmw\n";
+    out << "\nbandwidth (GB/s, bytes read + written) |   copy |    rmw |   read\n";
     for (const BandwidthRow& b : r.bandwidth)
         out << std::left << std::setw(39) << b.where << std::right << " | " << std::setw(6) << num(b.copy, 1)
-            << " | " << std::setw(6) << num(b.rmw, 1) << "\n";
+            << " | " << std::setw(6) << num(b.rmw, 1) << " | " << std::setw(6) << num(b.read, 1) << "\n";
 
     bool shown[std::size(kColumns)] = {true};  // ours always
     for (const Row& row : r.rows)
@@ -110,7 +110,7 @@ void writeJson(std::ostream& out, const Report& r) {
     for (std::size_t i = 0; i < r.bandwidth.size(); ++i) {
         const BandwidthRow& b = r.bandwidth[i];
         out << (i ? ",\n    " : "\n    ") << "{\"where\": " << jsonStr(b.where) << ", \"copy\": " << jsonNum(b.copy)
-            << ", \"rmw\": " << jsonNum(b.rmw) << "}";
+            << ", \"rmw\": " << jsonNum(b.rmw) << ", \"read\": " << jsonNum(b.read) << "}";
     }
     out << "\n  ],\n  \"rows\": [";
     for (std::size_t i = 0; i < r.rows.size(); ++i) {

@@ -29,7 +29,7 @@ struct Row {
 // Bandwidth measured in this run, in GB/s (10^9 bytes read plus written per second).
 struct BandwidthRow {
     std::string where;  // an image size, or "memory"
-    double copy = kNone, rmw = kNone;
+    double copy = kNone, rmw = kNone, read = kNone;  // read: bytes read alone
 };
 
 struct Report {

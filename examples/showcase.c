@@ -2,8 +2,8 @@
  *
  *   qvnip_showcase OUTDIR
  *
- * writes the test image and the results of fills, copies, conversions and
- * arithmetic as PNG files into OUTDIR, and OUTDIR/index.html, which shows
+ * writes the test image and the results of fills, copies, conversions,
+ * arithmetic and statistics as PNG files into OUTDIR, and OUTDIR/index.html, which shows
  * each picture with a sentence saying what it shows and which function made
  * it; one line per file on standard output. Every call takes (pointer, step
  * in bytes) pairs and a QvnRoiSize, and returns a QvnStatus: 0 ok, < 0 error,
@@ -28,6 +28,12 @@
 #endif
 #if defined(QVN_HAS_qvniAdd_8u_C3RSfs) && defined(QVN_HAS_qvniSub_8u_C3RSfs)
 #define SHOW_ARITH 1
+#endif
+#if defined(QVN_HAS_qvniMean_8u_C3R) && defined(QVN_HAS_qvniMinIndx_8u_C3R) && defined(QVN_HAS_qvniMaxIndx_8u_C3R)
+#define SHOW_STATS 1
+#endif
+#if defined(QVN_HAS_qvniResizeLinear_8u_C3R) && defined(QVN_HAS_qvniResizeNearest_8u_C3R)
+#define SHOW_RESIZE 1
 #endif
 #if defined(QVN_HAS_qvniDFTFwd_RToPack_32f_C3R) && defined(QVN_HAS_qvniMulPack_32f_C3IR)
 #define SHOW_FFT 1
@@ -233,6 +239,27 @@ static void drawCheckerboard(Qvn8u* img, int step) {
             ok("qvniSet_8u_C3R", qvniSet_8u_C3R(((x ^ y) & 32) ? light : dark, img + (size_t)y * step + 3 * x, step, tile));
 }
 
+#ifdef SHOW_STATS
+static void copyImage(const Qvn8u* from, Qvn8u* to, int step) {
+    int y;
+    for (y = 0; y < H; ++y) memcpy(to + (size_t)y * step, from + (size_t)y * step, 3 * W);
+}
+
+/* A cross of 15 x 15 pixels, 3 wide, around (x, y), clipped to the image. */
+static void drawCross(Qvn8u* img, int step, int x, int y, Qvn8u v) {
+    const Qvn8u px[3] = {v, v, v};
+    int i;
+    for (i = -7; i <= 7; ++i) {
+        const int a = x + i, b = y + i;
+        int t;
+        for (t = -1; t <= 1; ++t) {
+            if (a >= 0 && a < W && y + t >= 0 && y + t < H) memcpy(img + (size_t)(y + t) * step + 3 * a, px, 3);
+            if (b >= 0 && b < H && x + t >= 0 && x + t < W) memcpy(img + (size_t)b * step + 3 * (x + t), px, 3);
+        }
+    }
+}
+#endif
+
 int main(int argc, char** argv) {
     const QvnVersionInfo* v = qvniGetLibVersion();
     int step = 0;
@@ -363,6 +390,80 @@ int main(int argc, char** argv) {
                            "The test image minus the checkerboard, with negative differences saturated to 0 "
                            "(black), by <code>qvniSub_8u_C3RSfs</code>.",
                            out, astep, W, H, 3);
+        }
+        qvniFree(out);
+    }
+#endif
+
+#ifdef SHOW_STATS
+    /* Statistics: the mean of each channel of the test image, and the
+     * first pixel (in row-major order) holding each channel's minimum and
+     * maximum, marked by a cross of that channel's colour (black for a
+     * minimum, white for a maximum). */
+    {
+        static char caption[512];
+        const QvnRoiSize whole = {W, H};
+        Qvn64f mean[3];
+        Qvn8u lo[3], hi[3];
+        int lx[3], ly[3], hx[3], hy[3], c;
+        copyImage(img, work, step);
+        if (ok("qvniMean_8u_C3R", qvniMean_8u_C3R(img, step, whole, mean)) &&
+            ok("qvniMinIndx_8u_C3R", qvniMinIndx_8u_C3R(img, step, whole, lo, lx, ly)) &&
+            ok("qvniMaxIndx_8u_C3R", qvniMaxIndx_8u_C3R(img, step, whole, hi, hx, hy))) {
+            for (c = 0; c < 3; ++c) {
+                drawCross(work, step, lx[c], ly[c], 0);
+                drawCross(work, step, hx[c], hy[c], 255);
+            }
+            snprintf(caption, sizeof caption,
+                     "Crosses on the first pixel of each channel's minimum (black) and maximum (white), found by "
+                     "<code>qvniMinIndx_8u_C3R</code> and <code>qvniMaxIndx_8u_C3R</code>: red %d at (%d, %d) and "
+                     "%d at (%d, %d), green %d at (%d, %d) and %d at (%d, %d), blue %d at (%d, %d) and %d at "
+                     "(%d, %d). The means by <code>qvniMean_8u_C3R</code> are %.3f, %.3f and %.3f.",
+                     lo[0], lx[0], ly[0], hi[0], hx[0], hy[0], lo[1], lx[1], ly[1], hi[1], hx[1], hy[1], lo[2],
+                     lx[2], ly[2], hi[2], hx[2], hy[2], mean[0], mean[1], mean[2]);
+            writeImage("stats_extremes.png", caption, work, step, W, H, 3);
+        }
+    }
+#endif
+
+#ifdef SHOW_RESIZE
+    /* Resizing: a piece of the test image's rings enlarged four times, by
+     * nearest neighbour and by linear interpolation. Size query, spec, work
+     * buffer, then the call; the source pointer addresses the piece (a ROI). */
+    {
+        const QvnRoiSize from = {96, 72}, to = {384, 288};
+        const Qvn8u* piece = img + (size_t)16 * step + 3 * 16;  /* near a corner: fine rings */
+        int specSize = 0, initSize = 0, bufSize = 0, rstep = 0, kind;
+        Qvn8u* out = qvniMalloc_8u_C3(to.width, to.height, &rstep);
+        for (kind = qvnInterpNearest; kind <= qvnInterpLinear && out != NULL; ++kind) {
+            const QvnPoint origin = {0, 0};
+            QvnResizeSpec* spec;
+            Qvn8u* buf;
+            if (!ok("qvniResizeGetSize_8u", qvniResizeGetSize_8u(from, to, kind, 0, &specSize, &initSize))) break;
+            spec = (QvnResizeSpec*)malloc((size_t)specSize);
+            if (spec != NULL &&
+                ok("qvniResizeInit", kind == qvnInterpNearest ? qvniResizeNearestInit_8u(from, to, spec)
+                                                              : qvniResizeLinearInit_8u(from, to, spec)) &&
+                ok("qvniResizeGetBufferSize_8u", qvniResizeGetBufferSize_8u(spec, to, 3, &bufSize)) &&
+                (buf = (Qvn8u*)malloc((size_t)bufSize)) != NULL) {
+                if (kind == qvnInterpNearest &&
+                    ok("qvniResizeNearest_8u_C3R",
+                       qvniResizeNearest_8u_C3R(piece, step, out, rstep, origin, to, spec, buf)))
+                    writeImage("resize_nearest.png",
+                               "A 96 &times; 72 piece of the fine rings near the top left corner enlarged four times by "
+                               "<code>qvniResizeNearest_8u_C3R</code>: every source pixel becomes a 4 &times; 4 "
+                               "block.",
+                               out, rstep, to.width, to.height, 3);
+                if (kind == qvnInterpLinear &&
+                    ok("qvniResizeLinear_8u_C3R", qvniResizeLinear_8u_C3R(piece, step, out, rstep, origin, to,
+                                                                          qvnBorderReplicate, NULL, spec, buf)))
+                    writeImage("resize_linear.png",
+                               "The same piece enlarged four times by <code>qvniResizeLinear_8u_C3R</code>: "
+                               "each pixel interpolated between the four source pixels around its centre.",
+                               out, rstep, to.width, to.height, 3);
+                free(buf);
+            }
+            free(spec);
         }
         qvniFree(out);
     }

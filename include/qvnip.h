@@ -5,7 +5,10 @@
 #include "qvnip_types.h"
 #include "qvnip_arith.h"
 #include "qvnip_core.h"
+#include "qvnip_filter.h"
+#include "qvnip_geom.h"
 #include "qvnip_move.h"
+#include "qvnip_stats.h"
 #include "qvnip_transform.h"
 
 #endif /* QVNIP_H */

@@ -190,6 +190,15 @@ enum {
     qvnInterpLanczos = 16
 };
 
+/* ---- resize ------------------------------------------------------------- */
+/* The resize spec: caller memory of the size qvniResizeGetSize reports,
+ * filled by an Init function; opaque. */
+typedef struct QvnResizeSpec QvnResizeSpec;
+/* A point of the _L functions. */
+typedef struct { QvnSizeL x; QvnSizeL y; } QvnPointL;
+/* How many pixels beyond each edge of a source image an operation reads. */
+typedef struct { Qvn32u borderLeft; Qvn32u borderTop; Qvn32u borderRight; Qvn32u borderBottom; } QvnBorderSize;
+
 /* Comparison masks hold 255 where the comparison holds and 0 elsewhere. */
 typedef int QvnCompareOp;
 enum {
@@ -210,8 +219,11 @@ enum {
     qvnFftNoDivByAny = 8  /* neither */
 };
 
-/* Specs of the 2D FFT and DFT: caller memory of the size their query
- * returns, built by their initialiser (opaque). */
+/* ---- specs ---------------------------------------------------------------
+ * Precomputed state in caller memory of the size that the family's size
+ * query reports; the library places it at the first 64-byte boundary of that
+ * memory and never frees it. */
+typedef struct QvnFilterBorderSpec QvnFilterBorderSpec;
 typedef struct QvnFftSpec QvnFftSpec;
 typedef struct QvnDftSpec QvnDftSpec;
 

@@ -20,8 +20,9 @@ using kernels::arith::SubOp;
 
 // Runs kernel kern (x op y) over the rows. Two-source C1, C3 and C4 rows are one
 // run of width x channels elements; AC4 keeps every fourth element. A constant
-// operand repeats K values along the row.
-template <class T, class L, bool Const, class Kern>
+// operand repeats K values along the row. Store stores the vectors (a caller
+// that streams ends with a store fence).
+template <class T, class L, bool Const, class Store = kernels::StoreRegular, class Kern>
 inline QvnStatus runRows(const T* x, std::int64_t xStep, const T* y, std::int64_t yStep, T* d,
                          std::int64_t dStep, RoiL roi, Kern&& kern) {
     namespace ka = kernels::arith;
@@ -30,16 +31,29 @@ inline QvnStatus runRows(const T* x, std::int64_t xStep, const T* y, std::int64_
         constexpr int K = L::kAlpha ? 4 : E;
         const ka::ConstOperand<T, K> c(y, L::kChannels);
         return forEachRow(
-            roi, [&](const T* xr, T* dr, std::int64_t n) { ka::row<L::kAlpha>(xr, c, dr, n * E, kern); },
+            roi, [&](const T* xr, T* dr, std::int64_t n) { ka::row<L::kAlpha, Store>(xr, c, dr, n * E, kern); },
             rows(x, xStep, E), rows(d, dStep, E));
     } else {
         return forEachRow(
             roi,
             [&](const T* xr, const T* yr, T* dr, std::int64_t n) {
-                ka::row<L::kAlpha>(xr, ka::RowOperand<T>{yr}, dr, n * E, kern);
+                ka::row<L::kAlpha, Store>(xr, ka::RowOperand<T>{yr}, dr, n * E, kern);
             },
             rows(x, xStep, E), rows(y, yStep, E), rows(d, dStep, E));
     }
+}
+
+// Runs a one-source kernel (kern(x, value), the value the same for every
+// element) over the rows: C1, C3 and C4 rows are one run of width x channels
+// elements, AC4 keeps every fourth.
+template <class T, class L, class Store = kernels::StoreRegular, class Kern>
+inline QvnStatus runUnary(const T* x, std::int64_t xStep, T* d, std::int64_t dStep, RoiL roi, Kern&& kern,
+                          T value = T()) {
+    const T all[4] = {value, value, value, value};
+    if constexpr (L::kAlpha)
+        return runRows<T, AC4, true, Store>(x, xStep, all, 0, d, dStep, roi, kern);
+    else
+        return runRows<T, C1, true, Store>(x, xStep, all, 0, d, dStep, RoiL{roi.width * L::kElems, roi.height}, kern);
 }
 
 // Chooses the scale-factor path once and runs its kernel: x op y for every

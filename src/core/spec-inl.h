@@ -39,6 +39,18 @@ inline const S* find(const void* buffer, std::uint32_t id) {
     return s->id == id ? s : nullptr;
 }
 
+// Finds the spec in a buffer from place() when accept(spec) holds (its
+// identifier and the parameters recorded after it); null otherwise, which the
+// caller reports as qvnErrBadSpec.
+template <class S, class Accept>
+inline const S* findIf(const void* buffer, const Accept& accept) {
+    const S* s = reinterpret_cast<const S*>(alignUp64(static_cast<const unsigned char*>(buffer)));
+    return accept(*s) ? s : nullptr;
+}
+
+// n rounded up to a multiple of 64: the size of a 64-byte aligned block.
+inline constexpr std::int64_t align64(std::int64_t n) { return (n + 63) & ~std::int64_t(63); }
+
 }  // namespace spec
 QVN_TARGET_END
 

@@ -33,18 +33,13 @@ inline V<T> zeroDivisorResult(V<T> x) {
 
 // Remembers whether any divisor that was used (not an AC4 alpha) was zero.
 template <class T>
-struct ZeroWatch {
-    V<T> seen = isa::zero<T>(), skip = isa::zero<T>();
-    bool seenScalar = false;
-    void skipLanes(V<T> alpha) { skip = alpha; }
+struct ZeroWatch : Watch<T> {
     V<T> watch(V<T> y) {
         const V<T> z = isa::cmpEq(y, isa::zero<T>());
-        seen = isa::bitOr(seen, isa::andNot(skip, z));
+        this->flag(z);
         return z;
     }
-    QvnStatus status() const {
-        return seenScalar || isa::anyTrue(seen) ? qvnWarnDivByZero : qvnOk;
-    }
+    QvnStatus status() const { return this->met() ? qvnWarnDivByZero : qvnOk; }
 };
 
 // Integer x / y scaled by 2^-sf, rounded to nearest with ties to even: the

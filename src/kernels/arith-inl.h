@@ -254,6 +254,19 @@ struct Unwatched {
     void skipLanes(M) {}
 };
 
+// A kernel that reports a condition some element met (a zero divisor, a
+// negative square root) flags it here: lanes of a vector, with the alpha
+// lanes masked off, or an element of the scalar head and tail.
+template <class T>
+struct Watch {
+    V<T> seen = isa::zero<T>(), skip = isa::zero<T>();
+    bool seenScalar = false;
+    void skipLanes(V<T> alpha) { skip = alpha; }
+    void flag(V<T> lanes) { seen = isa::bitOr(seen, isa::andNot(skip, lanes)); }
+    void flag(bool met) { seenScalar |= met; }
+    bool met() const { return seenScalar || isa::anyTrue(seen); }
+};
+
 template <class Op, class T, class Path>
 struct SfsKernel : Unwatched {
     Path path;
@@ -325,10 +338,10 @@ inline V<T> alphaLanes(int64_t i0) {
 }
 
 // The row template: d[i] = kern(x[i], y[i]) over n elements, scalar head until
-// d is vector-aligned, vector body, scalar tail. With Keep every fourth element
-// (alpha) is left as it is.
-template <bool Keep, class T, class Kern, class Y>
-inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
+// d is vector-aligned, vector body (stored by Store), scalar tail. With Keep
+// every fourth element (alpha) is left as it is.
+template <bool Keep, class Store, class T, class Kern, class Y>
+inline void rowWith(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     constexpr int64_t kLanes = isa::kLanes<T>;
     int64_t head = headToAlign(d, n);
     if (head < 0) head = n;
@@ -342,7 +355,7 @@ inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
         const auto one = [&](int64_t k, V<T> yv) {
             const V<T> r = kern.vector(isa::loadU(x + k), yv);
             if constexpr (Keep) isa::storeKeep(d + k, r, alpha);
-            else isa::storeA(d + k, r);
+            else Store::store(d + k, r);
         };
         if constexpr (Y::kPeriod == 3) {  // a 3-constant pattern: three vectors a round
             for (; i + 3 * kLanes <= n; i += 3 * kLanes) {
@@ -357,6 +370,21 @@ inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
     }
     for (; i < n; ++i)
         if (!Keep || i % 4 != 3) d[i] = kern.scalar(x[i], y.at(i));
+}
+
+// A kernel that the row may change (one that watches its inputs) runs as a
+// local copy, written back at the end: vector stores may alias any type, so
+// through the caller's reference every store to d would reload and store
+// the kernel's state, a dependency through memory from vector to vector.
+template <bool Keep, class Store = StoreRegular, class T, class Kern, class Y>
+inline void row(const T* x, Y y, T* d, int64_t n, Kern& kern) {
+    if constexpr (std::is_const_v<Kern>) {
+        rowWith<Keep, Store>(x, y, d, n, kern);
+    } else {
+        Kern local = kern;
+        rowWith<Keep, Store>(x, y, d, n, local);
+        kern = local;
+    }
 }
 
 }  // namespace arith

@@ -3,6 +3,7 @@
 #define QVN_KERNELS_FILL_INL_H
 
 #include <cstdint>
+#include <numeric>
 
 #include "kernels/isa/isa.h"
 #include "kernels/store-inl.h"
@@ -13,14 +14,15 @@ namespace kernels {
 // Writes n pixels of K elements each, pixel k = px[0..K-1]. When Keep is true
 // the last element of every pixel (alpha) is left as it is.
 //
-// The K-element pattern repeats every three vectors for K = 3 and every vector
-// for K = 1, 2, 4, so the body stores a fixed set of up to three vectors built
-// once per row for the element phase at which the aligned part starts. With
+// The K-element pattern repeats every three vectors for K = 3, and every
+// vector for K = 1, 2, 4 (every two for four 8-byte elements on 16-byte
+// vectors), so the body stores a fixed set of up to three vectors built once
+// per row for the element phase at which the aligned part starts. With
 // Keep the vectors are stored with the alpha lanes kept (isa::storeKeep).
 template <class T, int K, bool Keep, class Store>
 inline void fillRow(T* d, std::int64_t n, const T* px) {
     constexpr std::int64_t kLanes = isa::kLanes<T>;
-    constexpr int kPeriod = K == 3 ? 3 : 1;  // vectors before the pattern repeats
+    constexpr int kPeriod = int(std::lcm(std::int64_t(K), kLanes) / kLanes);  // vectors before the pattern repeats
     const std::int64_t total = n * K;
     std::int64_t head = headToAlign(d, total);
     if (head < 0) {  // not element-aligned: scalar only (never from our own images)

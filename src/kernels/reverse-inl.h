@@ -24,8 +24,9 @@ namespace kernels {
 // The unsigned type of T's size: rows that only move elements move their
 // bits, whatever they mean.
 template <class T>
-using Bits = std::conditional_t<sizeof(T) == 1, std::uint8_t,
-                                std::conditional_t<sizeof(T) == 2, std::uint16_t, std::uint32_t>>;
+using Bits = std::conditional_t<
+    sizeof(T) == 1, std::uint8_t,
+    std::conditional_t<sizeof(T) == 2, std::uint16_t, std::conditional_t<sizeof(T) == 4, std::uint32_t, std::uint64_t>>>;
 
 // Three-element pixels of P bytes (3 or 6) reversed in blocks of 48 bytes
 // (three 16-byte vectors, 48 / P pixels) on the targets with a byte shuffle:
@@ -73,7 +74,8 @@ struct Reversal {
 #else
     static constexpr bool kBlocks3 = false;
 #endif
-    static constexpr std::int64_t kPixels = K != 3 ? std::int64_t(isa::kVectorBytes / kPixelBytes)
+    // pixels of more than 16 bytes (64f C3, C4) move one by one
+    static constexpr std::int64_t kPixels = K != 3 ? (kPixelBytes > 16 ? 0 : std::int64_t(isa::kVectorBytes / kPixelBytes))
                                             : kBlocks3 ? Reverse3<int(kPixelBytes)>::kPixels : 0;
 
     // One pixel; with Keep its alpha stays.
@@ -87,7 +89,7 @@ struct Reversal {
     };
     static void load(const U* s, Block& b) {
         if constexpr (K == 3) std::memcpy(b.bytes, s, 48);
-        else b.v = isa::reverseUnits<int(kPixelBytes)>(isa::loadU(s));
+        else if constexpr (kPixels > 0) b.v = isa::reverseUnits<int(kPixelBytes)>(isa::loadU(s));
     }
     template <class Store>
     static void store(const Block& b, U* d, isa::Vec<U> keep, bool aligned) {
@@ -132,13 +134,17 @@ inline void reverseRow(const U* s, U* d, std::int64_t n) {
         // one by one: a move of the next power of two reads into the source
         // pixel after (there is one unless j is 0) and writes into the next
         // destination pixel (written next unless j is n - 1)
-        constexpr std::size_t kWide = kP == 3 ? 4 : kP == 6 ? 8 : 16;
+        constexpr std::size_t kWide = kP == 3 ? 4 : kP == 6 ? 8 : kP == 12 ? 16 : 32;
         if (j == 0 && n > 0) std::memcpy(db, sb + (n - 1) * kP, kP), j = 1;
         for (; j < n - 1; ++j) std::memcpy(db + j * kP, sb + (n - 1 - j) * kP, kWide);
         if (j < n) std::memcpy(db + j * kP, sb + (n - 1 - j) * kP, kP);
         return;
     }
     constexpr std::int64_t P = R::kPixels;
+    if constexpr (P == 0) {
+        for (std::int64_t j = 0; j < n; ++j) R::pixel(s + (n - 1 - j) * K, d + j * K);
+        return;
+    }
     std::int64_t j = 0;
     while (j < P && j < n && !isa::alignedV(d + j * K)) ++j;
     const bool aligned = j < P;

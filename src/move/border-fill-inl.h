@@ -14,9 +14,10 @@
 // writes the pixels (x, y) of the extended source for x0 <= x < x0 + w and
 // y0 <= y < y0 + h, in the coordinates of the source ROI ((0, 0) is its first
 // pixel, so x0 = -left, y0 = -top asks for the whole image with its borders),
-// to the w x h pixels at dst. T is the element type, L the layout (C1, C3,
-// C4, or AC4, which never writes the destination's alpha). A pixel (x, y) is
-// read from the source at (col(x), row(y)), each axis on its own:
+// to the w x h pixels at dst. T is the element type (of 1, 2, 4 or 8 bytes),
+// L the layout (C1, C3, C4, or AC4, which never writes the destination's
+// alpha). A pixel (x, y) is read from the source at (col(x), row(y)), each
+// axis on its own:
 //
 //   - inside the ROI, or beyond it on a side whose kInMem* flag is set, the
 //     position itself (the caller guarantees the memory there);
@@ -299,7 +300,7 @@ template <class T, class L>
 inline void fillWindow(const Source<T>& s, std::int64_t x0, std::int64_t y0, std::int64_t w, std::int64_t h, T* dst,
                        std::int64_t dstStep) {
     using U = kernels::Bits<T>;
-    static_assert(sizeof(T) == sizeof(U), "element types of 1, 2 or 4 bytes");
+    static_assert(sizeof(T) == sizeof(U), "element types of 1, 2, 4 or 8 bytes");
     const Source<U> u{reinterpret_cast<const U*>(s.p), s.step, s.width, s.height,
                       s.kind, s.inMemory, reinterpret_cast<const U*>(s.value)};
     detail::Runs<U, L::kElems, L::kAlpha>::window(u, x0, y0, w, h, reinterpret_cast<U*>(dst), dstStep);

@@ -52,6 +52,7 @@ struct Planes {  // K planes of w elements, one after another
 
 template <class T>
 const T kValue[4] = {1, 2, 3, 4};
+const Qvn32u kCounts[4] = {1, 40, 0, 31};
 
 // Counts: bytes of the ROI for the fills and the planar copies (all planes),
 // elements for the conversions. Rows with threshold 0 must never ask.
@@ -71,7 +72,14 @@ const Streamer kStreamers[] = {
     QVN_CONVERT(8s, 32s, Qvn8s, Qvn32s, C3R, 3, 0x1999A), QVN_CONVERT(8s, 32s, Qvn8s, Qvn32s, C4R, 4, 0x1999A),
     QVN_CONVERT(8u, 32f, Qvn8u, Qvn32f, C1R, 1, 0x1999A), QVN_CONVERT(8u, 32s, Qvn8u, Qvn32s, C1R, 1, 0x1999A),
     QVN_CONVERT(8u, 16s, Qvn8u, Qvn16s, C1R, 1, 0x2AAAB),
+    // bit operations and shifts, counting destination bytes
+    {"And_8u_C1R", 0x80001, 1, 1, 1, QVN_ROW(qvniAnd_8u_C1R(s, w, s, w, d, w, {w, 1}))},
+    {"AndC_16u_C3R", 0x80001, 6, 6, 6, QVN_ROW(qvniAndC_16u_C3R(QVN_S(Qvn16u, s), w * 6, kValue<Qvn16u>, QVN_D(Qvn16u, d), w * 6, {w, 1}))},
+    {"Not_8u_C4R", 0x80001, 4, 4, 4, QVN_ROW(qvniNot_8u_C4R(s, w * 4, d, w * 4, {w, 1}))},
+    {"RShiftC_32s_C4R", 0x80001, 16, 16, 16,
+     QVN_ROW(qvniRShiftC_32s_C4R(QVN_S(Qvn32s, s), w * 16, kCounts, QVN_D(Qvn32s, d), w * 16, {w, 1}))},
     // never: alpha layouts, other types and layouts of the same families
+    {"Xor_16u_AC4R", 0, 8, 8, 8, QVN_ROW(qvniXor_16u_AC4R(QVN_S(Qvn16u, s), w * 8, QVN_S(Qvn16u, s), w * 8, QVN_D(Qvn16u, d), w * 8, {w, 1}))},
     {"Set_8u_AC4R", 0, 4, 0, 4, QVN_ROW(qvniSet_8u_AC4R(kValue<Qvn8u>, d, w * 4, {w, 1}))},
     QVN_TO_PLANES(8u, Qvn8u, 4, 0), QVN_TO_PLANES(16u, Qvn16u, 3, 0), QVN_FROM_PLANES(8u, Qvn8u, 3, 0),
     QVN_CONVERT(16s, 32f, Qvn16s, Qvn32f, AC4R, 4, 0), QVN_CONVERT(8u, 32f, Qvn8u, Qvn32f, C3R, 3, 0),

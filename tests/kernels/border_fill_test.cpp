@@ -75,6 +75,9 @@ TEST(BorderFill, WindowsStripsAndInMemorySides) {
             sweepWindows<Qvn8u, C1>(w, h);
             sweepWindows<Qvn16u, AC4>(w, h);
             sweepWindows<Qvn32f, C3>(w, h);
+            sweepWindows<Qvn64f, C1>(w, h);  // 8-byte elements: 8-, 24- and 32-byte pixels
+            sweepWindows<Qvn64f, C3>(w, h);
+            sweepWindows<Qvn64f, C4>(w, h);
         }
 }
 

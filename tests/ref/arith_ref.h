@@ -53,6 +53,21 @@ T mulScaled(std::uint64_t a, std::uint64_t b) {
     return static_cast<T>(a * b / std::numeric_limits<T>::max());
 }
 
+// A real result (long double, from the C library's functions) rounded to
+// the nearest integer with ties to even and saturated; NaN counts as
+// -infinity. Exact for the elementary functions of 16-bit integers, whose
+// values are never within the long double error of a half-integer unless
+// they are one.
+template <class T>
+T roundedReal(long double v) {
+    if (std::isnan(v) || v <= (long double)std::numeric_limits<T>::min()) return std::numeric_limits<T>::min();
+    if (v >= (long double)std::numeric_limits<T>::max()) return std::numeric_limits<T>::max();
+    long double r = std::floor(v);
+    const long double d = v - r;
+    if (d > 0.5L || (d == 0.5L && std::fmod(r, 2.0L) != 0)) r += 1;
+    return static_cast<T>(r);
+}
+
 }  // namespace qvn::ref
 
 #endif

@@ -2,8 +2,9 @@
 // or more rows, with and without row gaps), every image of a call placed on
 // its own (start offset within a vector, page end in some shapes), the one
 // place where a function under test is called, a whole-ROI comparison that
-// names the first differing (x, y, channel), the elementwise sweep and the
-// channel-map sweep of the copies, fills and channel shuffles.
+// names the first differing (x, y, channel), the elementwise sweep, the
+// reduction sweep (results written through pointers) and the channel-map
+// sweep of the copies, fills and channel shuffles.
 #ifndef QVN_TESTS_SUPPORT_SWEEP_H
 #define QVN_TESTS_SUPPORT_SWEEP_H
 
@@ -262,6 +263,70 @@ void exhaustive(ElementCase<S, D> c) {
 // steps), d, ds and r.
 #define QVN_ECALL(...) \
     [=](const auto* const* s, const int* ss, auto* d, int ds, QvnRoiSize r) -> QvnStatus { (void)s, (void)ss; return __VA_ARGS__; }
+
+// ---- reductions -------------------------------------------------------------------
+// A function that reads one source image and writes a few results (sums,
+// extremes, positions) through pointers. Each result array lies right before
+// an inaccessible page, so a write past its last value faults, and nothing
+// around it may change.
+template <class S>
+struct ReduceCase {
+    // out[i]: result array i, resultBytes[i] long.
+    using Call = std::function<QvnStatus(const S* src, int srcStep, QvnRoiSize roi, void* const* out)>;
+    // An empty string when the results out are right for src, else the first wrong one.
+    using Check = std::function<std::string(const GuardedImage<S>& src, const unsigned char* const* out)>;
+    ReduceCase(std::string name_, int elems_, std::vector<int> resultBytes_)
+        : name(std::move(name_)), elems(elems_), resultBytes(std::move(resultBytes_)) {}
+    std::string name;
+    int elems = 1;
+    std::vector<int> resultBytes;
+    std::function<void(GuardedImage<S>&, std::uint32_t seed)> fill = fillSource<S>;
+    int callerRounding = FE_UPWARD;
+    bool acrossTargets = true;  // no exact model pins the bits: every target must give the same
+    int nanSize = 0;            // results are floats of this size whose NaNs match any NaN
+    Call call;
+    Check check;
+};
+
+// Value i of type R of a result array.
+template <class R>
+R resultAt(const unsigned char* out, int i) {
+    R v;
+    std::memcpy(&v, out + i * sizeof(R), sizeof(R));
+    return v;
+}
+
+// Widths around every vector, block and unrolled-block length (up to four
+// 64-byte vectors of 8u and a tail), heights that cover a lone row and
+// several rows.
+inline const Shapes kReduceShapes{{1, 2, 3, 7, 16, 17, 33, 65, 200, 333}, {1, 3, 9}};
+
+template <class S>
+void sweepReduce(const ReduceCase<S>& c, const Shapes& shapes = kReduceShapes) {
+    SCOPED_TRACE(c.name);
+    const auto salt = std::uint32_t(std::hash<std::string>{}(c.name));
+    forEachShape(shapes.widths, shapes.heights, [&](int w, int h, int gap, bool, std::uint32_t seed) {
+        seed += salt;
+        GuardedImage<S> src(placed(w, h, c.elems, gap, seed, 0));
+        c.fill(src, seed);
+        std::vector<std::unique_ptr<GuardedImage<unsigned char>>> res;
+        std::vector<const GuardedBuffer*> outputs;
+        void* out[4] = {};
+        const unsigned char* got[4] = {};
+        for (std::size_t i = 0; i < c.resultBytes.size(); ++i) {
+            res.push_back(std::make_unique<GuardedImage<unsigned char>>(
+                Layout{c.resultBytes[i], 1, 1, 0, true, seed + std::uint32_t(i)}));
+            out[i] = res.back()->data(), got[i] = res.back()->data();
+            outputs.push_back(res.back().get());
+        }
+        const QvnStatus s = callUnderTest(
+            {&src}, outputs, [&] { return c.call(src.data(), int(src.step()), QvnRoiSize{w, h}, out); },
+            c.callerRounding, c.acrossTargets, c.nanSize);
+        ASSERT_EQ(s, qvnOk) << c.name << " " << w << "x" << h;
+        const std::string wrong = c.check(src, got);
+        EXPECT_EQ(wrong, "") << c.name << " " << w << "x" << h << " gap " << gap << " seed " << seed;
+    }, shapes.gaps);
+}
 
 // The copies, fills and channel shuffles: source (ignored by fills),
 // destination, ROI and mask (ignored by unmasked forms), pointers already at

@@ -336,6 +336,9 @@ inline Vec<float> toFloat(Vec<std::int32_t> a) { return {_mm_cvtepi32_ps(a.v)}; 
 inline Vec<std::int32_t> toInt(Vec<float> a) { return {_mm_cvtps_epi32(a.v)}; }
 // Converts rounding toward zero; out-of-range lanes give INT32_MIN.
 inline Vec<std::int32_t> toIntTrunc(Vec<float> a) { return {_mm_cvttps_epi32(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm_sqrt_pd(a.v)}; }
 
 // ---- type conversion and scaling ------------------------------------------------------
 // Double lanes from the low two int32 lanes (exact).
@@ -573,6 +576,100 @@ inline Vec<std::uint8_t> byteTable(Vec<std::uint8_t> a, const std::uint8_t* tabl
 }
 #endif
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a.v, _mm_setzero_si128())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) {
+    return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
+}
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+x"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is
+// NaN (minps and maxps return their second operand then).
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_or_ps(_mm_min_ps(x.v, acc.v), _mm_and_ps(_mm_cmpeq_ps(x.v, acc.v), x.v))};
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm_andnot_ps(_mm_andnot_ps(x.v, _mm_cmpeq_ps(x.v, acc.v)), _mm_max_ps(x.v, acc.v))};
+}
+
+// ---- resize family ---------------------------------------------------------------------------
+// x in the low 64-bit lane, zeros above (pixels gathered in a general register).
+inline Vec<std::uint64_t> fromLow64(std::uint64_t x) { return {_mm_cvtsi64_si128(static_cast<long long>(x))}; }
+// The four 8- or 16-bit elements at p (any alignment) zero- or sign-extended
+// to 32-bit lanes: one instruction where SSE4.1 is there, unpacks otherwise.
+template <class T>
+inline Vec<std::int32_t> load4x32(const T* p) {
+    static_assert(sizeof(T) <= 2, "8- or 16-bit elements");
+    __m128i x;
+    if constexpr (sizeof(T) == 1) {
+        std::int32_t u;
+        std::memcpy(&u, p, 4);
+        x = _mm_cvtsi32_si128(u);
+    } else {
+        x = _mm_loadl_epi64(reinterpret_cast<const __m128i*>(p));
+    }
+#if QVN_TARGET_LEVEL >= 2
+    if constexpr (sizeof(T) == 1) return {std::is_signed_v<T> ? _mm_cvtepi8_epi32(x) : _mm_cvtepu8_epi32(x)};
+    else return {std::is_signed_v<T> ? _mm_cvtepi16_epi32(x) : _mm_cvtepu16_epi32(x)};
+#else
+    if constexpr (sizeof(T) == 1) {
+        static_assert(!std::is_signed_v<T>, "8u");
+        x = _mm_unpacklo_epi16(_mm_unpacklo_epi8(x, _mm_setzero_si128()), _mm_setzero_si128());
+    } else {
+        x = std::is_signed_v<T> ? _mm_srai_epi32(_mm_unpacklo_epi16(x, x), 16) : _mm_unpacklo_epi16(x, _mm_setzero_si128());
+    }
+    return {x};
+#endif
+}
+
+// ---- general filter and convolution (filter family) ----------------------------------------
+// The 16 bytes at p (16-byte aligned) in every 16-byte block of the vector:
+// coefficients that a spec stores once, one value per lane of a block.
+template <class T>
+inline Vec<T> loadBlock(const T* p) {
+    return loadA(p);
+}
+// kLanes<W> elements of T from p, each converted to W exactly: 8- and 16-bit
+// integers to 16- or 32-bit integers or to float, or T itself. Only the bytes
+// of those elements are read.
+template <class W, class T>
+inline Vec<W> loadExpand(const T* p) {
+    static_assert(sizeof(W) >= sizeof(T), "a widening load");
+    if constexpr (std::is_same_v<W, T>) {
+        return loadU(p);
+    } else if constexpr (std::is_same_v<W, float>) {
+        return toFloat(loadExpand<std::int32_t>(p));
+    } else if constexpr (sizeof(T) == 1 && sizeof(W) == 4) {
+        std::int32_t x;
+        std::memcpy(&x, p, 4);
+        const __m128i b = _mm_cvtsi32_si128(x), z = _mm_setzero_si128();
+        return fromBits<W>(_mm_unpacklo_epi16(_mm_unpacklo_epi8(b, z), z));
+    } else if constexpr (sizeof(T) == 1) {
+        static_assert(sizeof(W) == 2 && !std::is_signed_v<T>, "unsigned bytes to 16-bit lanes");
+        return fromBits<W>(_mm_unpacklo_epi8(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p)), _mm_setzero_si128()));
+    } else {
+        static_assert(sizeof(T) == 2 && sizeof(W) == 4, "16-bit to 32-bit lanes");
+        return widenLo<W>(Vec<T>{_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))});
+    }
+}
+// zipLo, zipHi and the int32-to-int16 packSat applied to each 16-byte block
+// of the vector on its own (here the vector is one block): lane pairs for
+// mulAddPairs whose sums are narrowed back to the original order.
+template <class T>
+inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) { return zipLo(a, b); }
+template <class T>
+inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
+inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
 inline void transposeSquare(Vec<float> r[4]) { _MM_TRANSPOSE4_PS(r[0].v, r[1].v, r[2].v, r[3].v); }
@@ -586,9 +683,6 @@ inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
     out[0] = {_mm_unpacklo_ps(in[0].v, in[1].v)};
     out[1] = {_mm_unpackhi_ps(in[0].v, in[1].v)};
 }
-// Correctly rounded square roots.
-inline Vec<float> sqrt(Vec<float> a) { return {_mm_sqrt_ps(a.v)}; }
-inline Vec<double> sqrt(Vec<double> a) { return {_mm_sqrt_pd(a.v)}; }
 
 }  // namespace v128
 QVN_TARGET_END

@@ -178,6 +178,9 @@ inline Vec<float> div(Vec<float> a, Vec<float> b) { return {_mm256_div_ps(a.v, b
 inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm256_div_pd(a.v, b.v)}; }
 // The same approximation as the 16-byte layer's (rcpps, eight lanes).
 inline Vec<float> rcpApprox(Vec<float> a) { return {_mm256_rcp_ps(a.v)}; }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm256_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm256_sqrt_pd(a.v)}; }
 
 // ---- shifts ------------------------------------------------------------------------
 template <int N, class T>
@@ -462,6 +465,72 @@ inline Vec<T> reverseUnits(Vec<T> a) {
     return fromBits<T>(x);
 }
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm256_sad_epu8(a.v, _mm256_setzero_si256())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) { return {_mm256_cvtps_pd(_mm_loadu_ps(p))}; }
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+v"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is NaN.
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm256_or_ps(_mm256_min_ps(x.v, acc.v), _mm256_and_ps(_mm256_cmp_ps(x.v, acc.v, _CMP_EQ_OQ), x.v))};
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    return {_mm256_andnot_ps(_mm256_andnot_ps(x.v, _mm256_cmp_ps(x.v, acc.v, _CMP_EQ_OQ)), _mm256_max_ps(x.v, acc.v))};
+}
+
+// ---- general filter and convolution (filter family) ----------------------------------------
+// The 16 bytes at p (16-byte aligned) in both 16-byte halves.
+template <class T>
+inline Vec<T> loadBlock(const T* p) {
+    if constexpr (std::is_same_v<T, float>) return {_mm256_broadcast_ps(reinterpret_cast<const __m128*>(p))};
+    else if constexpr (std::is_same_v<T, double>) return {_mm256_broadcast_pd(reinterpret_cast<const __m128d*>(p))};
+    else return {_mm256_broadcastsi128_si256(_mm_load_si128(reinterpret_cast<const __m128i*>(p)))};
+}
+// kLanes<W> elements of T from p, each converted to W exactly (see v128).
+template <class W, class T>
+inline Vec<W> loadExpand(const T* p) {
+    static_assert(sizeof(W) >= sizeof(T), "a widening load");
+    const auto* q = reinterpret_cast<const __m128i*>(p);
+    if constexpr (std::is_same_v<W, T>) {
+        return loadU(p);
+    } else if constexpr (std::is_same_v<W, float>) {
+        return toFloat(loadExpand<std::int32_t>(p));
+    } else if constexpr (sizeof(T) == 1 && sizeof(W) == 4) {
+        return fromBits<W>(_mm256_cvtepu8_epi32(_mm_loadl_epi64(q)));
+    } else if constexpr (sizeof(T) == 1) {
+        static_assert(sizeof(W) == 2 && !std::is_signed_v<T>, "unsigned bytes to 16-bit lanes");
+        return fromBits<W>(_mm256_cvtepu8_epi16(_mm_loadu_si128(q)));
+    } else {
+        static_assert(sizeof(T) == 2 && sizeof(W) == 4, "16-bit to 32-bit lanes");
+        return widenHalf<W, T>(_mm_loadu_si128(q));
+    }
+}
+// Interleaving and narrowing within each 16-byte half (see v128).
+template <class T>
+inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm256_unpacklo_epi8(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm256_unpacklo_epi16(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm256_unpacklo_epi32(bits(a), bits(b)));
+    else return fromBits<T>(_mm256_unpacklo_epi64(bits(a), bits(b)));
+}
+template <class T>
+inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm256_unpackhi_epi8(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm256_unpackhi_epi16(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm256_unpackhi_epi32(bits(a), bits(b)));
+    else return fromBits<T>(_mm256_unpackhi_epi64(bits(a), bits(b)));
+}
+inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm256_packs_epi32(lo.v, hi.v)}; }
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
 inline void transposeSquare(Vec<float> r[8]) {
@@ -493,9 +562,6 @@ inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
     out[0] = {_mm256_permute2f128_ps(lo, hi, 0x20)};
     out[1] = {_mm256_permute2f128_ps(lo, hi, 0x31)};
 }
-// Correctly rounded square roots.
-inline Vec<float> sqrt(Vec<float> a) { return {_mm256_sqrt_ps(a.v)}; }
-inline Vec<double> sqrt(Vec<double> a) { return {_mm256_sqrt_pd(a.v)}; }
 
 }  // namespace v256
 QVN_TARGET_END

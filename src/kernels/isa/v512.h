@@ -190,6 +190,9 @@ inline Vec<double> div(Vec<double> a, Vec<double> b) { return {_mm512_div_pd(a.v
 inline Vec<float> rcpApprox(Vec<float> a) {
     return combine(v256::rcpApprox(lowHalf(a)), v256::rcpApprox(highHalf(a)));
 }
+// Elementary math: the correctly rounded square root (current rounding control).
+inline Vec<float> sqrt(Vec<float> a) { return {_mm512_sqrt_ps(a.v)}; }
+inline Vec<double> sqrt(Vec<double> a) { return {_mm512_sqrt_pd(a.v)}; }
 
 // ---- shifts -----------------------------------------------------------------------------
 template <int N, class T>
@@ -510,6 +513,80 @@ inline Vec<T> reverseUnits(Vec<T> a) {
     return fromBits<T>(x);
 }
 
+// ---- statistics (sums, means and extrema) ------------------------------------------------------
+// The sum of each group of eight bytes, in its 64-bit lane (exact).
+inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm512_sad_epu8(a.v, _mm512_setzero_si512())}; }
+// kLanes<double> floats from p (any alignment), each converted to double (exact).
+inline Vec<double> loadToDouble(const float* p) { return {_mm512_cvtps_pd(_mm256_loadu_ps(p))}; }
+// loadU whose value the compiler keeps in a register: it cannot fold the
+// load again into each instruction that uses the vector. A stream that
+// misses the caches then issues one load per vector, not one per use, and
+// keeps more distinct lines in flight.
+template <class T>
+inline Vec<T> loadOnce(const T* p) {
+    Vec<T> v = loadU(p);
+    __asm__("" : "+v"(v.v));
+    return v;
+}
+// The lower (higher) of x and acc by value, with -0 below +0; acc where x is
+// NaN. Without a compare: minps(x, FLT_MIN) has its sign bit set exactly for
+// a negative x (-0 included, NaN not), and that sign is ORed into
+// minps(x, acc), which then turns an equal +0 into -0 and changes nothing
+// else; maxps(x, -FLT_MIN) has it clear exactly for x >= +0, and that clears
+// the sign of maxps(x, acc).
+inline Vec<float> minOrdered(Vec<float> x, Vec<float> acc) {
+    const __m512i m = _mm512_castps_si512(_mm512_min_ps(x.v, acc.v));
+    const __m512i t = _mm512_castps_si512(_mm512_min_ps(x.v, _mm512_set1_ps(1.17549435e-38f)));
+    return {_mm512_castsi512_ps(_mm512_ternarylogic_epi32(m, t, _mm512_set1_epi32(INT32_MIN), 0xF8))};  // m | (t & sign)
+}
+inline Vec<float> maxOrdered(Vec<float> x, Vec<float> acc) {
+    const __m512i m = _mm512_castps_si512(_mm512_max_ps(x.v, acc.v));
+    const __m512i t = _mm512_castps_si512(_mm512_max_ps(x.v, _mm512_set1_ps(-1.17549435e-38f)));
+    return {_mm512_castsi512_ps(_mm512_ternarylogic_epi32(m, t, _mm512_set1_epi32(INT32_MIN), 0xD0))};  // m & (t | ~sign)
+}
+
+// ---- general filter and convolution (filter family) ----------------------------------------
+// The 16 bytes at p (16-byte aligned) in all four 16-byte quarters.
+template <class T>
+inline Vec<T> loadBlock(const T* p) {
+    if constexpr (std::is_same_v<T, float>) return {_mm512_broadcast_f32x4(_mm_load_ps(p))};
+    else if constexpr (std::is_same_v<T, double>) return {_mm512_broadcast_f64x2(_mm_load_pd(p))};
+    else return {_mm512_broadcast_i32x4(_mm_load_si128(reinterpret_cast<const __m128i*>(p)))};
+}
+// kLanes<W> elements of T from p, each converted to W exactly (see v128).
+template <class W, class T>
+inline Vec<W> loadExpand(const T* p) {
+    static_assert(sizeof(W) >= sizeof(T), "a widening load");
+    if constexpr (std::is_same_v<W, T>) {
+        return loadU(p);
+    } else if constexpr (std::is_same_v<W, float>) {
+        return toFloat(loadExpand<std::int32_t>(p));
+    } else if constexpr (sizeof(T) == 1 && sizeof(W) == 4) {
+        return fromBits<W>(_mm512_cvtepu8_epi32(_mm_loadu_si128(reinterpret_cast<const __m128i*>(p))));
+    } else if constexpr (sizeof(T) == 1) {
+        static_assert(sizeof(W) == 2 && !std::is_signed_v<T>, "unsigned bytes to 16-bit lanes");
+        return fromBits<W>(_mm512_cvtepu8_epi16(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p))));
+    } else {
+        static_assert(sizeof(T) == 2 && sizeof(W) == 4, "16-bit to 32-bit lanes");
+        return widenHalf<W, T>(_mm256_loadu_si256(reinterpret_cast<const __m256i*>(p)));
+    }
+}
+// Interleaving and narrowing within each 16-byte quarter (see v128).
+template <class T>
+inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm512_unpacklo_epi8(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm512_unpacklo_epi16(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm512_unpacklo_epi32(bits(a), bits(b)));
+    else return fromBits<T>(_mm512_unpacklo_epi64(bits(a), bits(b)));
+}
+template <class T>
+inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
+    if constexpr (sizeof(T) == 1) return fromBits<T>(_mm512_unpackhi_epi8(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 2) return fromBits<T>(_mm512_unpackhi_epi16(bits(a), bits(b)));
+    else if constexpr (sizeof(T) == 4) return fromBits<T>(_mm512_unpackhi_epi32(bits(a), bits(b)));
+    else return fromBits<T>(_mm512_unpackhi_epi64(bits(a), bits(b)));
+}
+inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm512_packs_epi32(lo.v, hi.v)}; }
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place:
 // 4 x 4 blocks within each 16-byte lane, then the lanes of each group of four
@@ -549,9 +626,6 @@ inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
     out[0] = {_mm512_permutex2var_ps(in[0].v, lo, in[1].v)};
     out[1] = {_mm512_permutex2var_ps(in[0].v, hi, in[1].v)};
 }
-// Correctly rounded square roots.
-inline Vec<float> sqrt(Vec<float> a) { return {_mm512_sqrt_ps(a.v)}; }
-inline Vec<double> sqrt(Vec<double> a) { return {_mm512_sqrt_pd(a.v)}; }
 
 }  // namespace v512
 QVN_TARGET_END
