@@ -174,6 +174,7 @@ std::string firstMismatch(const Image<T>& got, const Image<T>& want, double tol,
 struct Case {
     std::function<void()> ours;
     std::function<void()> peer;  // empty when the operation has no peer
+    std::function<void()> fftw;  // a second peer, FFTW, for the transforms; usually empty
     // Runs each side once and compares; returns empty on agreement, else what differed.
     std::function<std::string()> check;
     double bytes = 0;       // read plus written by one call; 0: not memory bound
@@ -184,16 +185,32 @@ struct Case {
 
 using Factory = std::function<std::unique_ptr<Case>(Size)>;
 
+// The sizes of the output checks (--check): row ends and steps of odd sizes.
+inline const std::vector<Size> kCheckSizes = {{1, 1}, {37, 5}, {130, 17}};
+
 struct OpDef {
     std::string name;
-    Peer peer = Peer::None;
+    Peer peer = Peer::None;  // OpenCV (the peer column) or none
     Factory make;
     std::vector<Size> sizes;  // the source sizes it runs at; kSizes when empty
+    bool fftw = false;        // FFTW times the same result too (Case::fftw): the transforms
+    std::vector<Size> checkSizes = kCheckSizes;  // the sizes of --check
 };
 
 std::vector<OpDef>& registry();
 inline bool registerOp(std::string name, std::pair<Peer, Factory> def, std::vector<Size> sizes = {}) {
-    registry().push_back({std::move(name), def.first, std::move(def.second), std::move(sizes)});
+    OpDef op;
+    op.name = std::move(name);
+    op.peer = def.first;
+    op.make = std::move(def.second);
+    op.sizes = std::move(sizes);
+    registry().push_back(std::move(op));
+    return true;
+}
+// An operation described whole (the transforms: FFTW, sizes to check).
+inline bool registerOp(std::string name, OpDef def) {
+    def.name = std::move(name);
+    registry().push_back(std::move(def));
     return true;
 }
 // The source sizes of an operation.

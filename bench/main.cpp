@@ -141,14 +141,16 @@ CaseCache& cache() {
     return c;
 }
 
-// What a benchmark times: the peer, or our side with one build target.
-inline constexpr int kPeerSide = -1;
+// What a benchmark times: the peer, FFTW, or our side with one build target.
+inline constexpr int kPeerSide = -1, kFftwSide = -2;
 
 const char* peerName(Peer p) { return p == Peer::Fftw ? "fftw" : "opencv"; }
 
 std::string benchName(const OpDef& op, Size z, int side) {
     return op.name + "/" + sizeName(z) + "/" +
-           (side == kPeerSide ? std::string(peerName(op.peer)) : std::string("ours-") + kTargetNames[side]);
+           (side == kPeerSide   ? std::string(peerName(op.peer))
+            : side == kFftwSide ? std::string("fftw")
+                                : std::string("ours-") + kTargetNames[side]);
 }
 
 void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
@@ -159,8 +161,8 @@ void runCase(benchmark::State& st, std::size_t op, std::size_t size, int side) {
         }
         return;
     }
-    const std::function<void()>& fn = side == kPeerSide ? e.c->peer : e.c->ours;
-    withTarget(side == kPeerSide ? targets().ours : side, [&] {
+    const std::function<void()>& fn = side == kPeerSide ? e.c->peer : side == kFftwSide ? e.c->fftw : e.c->ours;
+    withTarget(side < 0 ? targets().ours : side, [&] {
         for (auto _ : st) {
             fn();
             benchmark::ClobberMemory();
@@ -256,11 +258,10 @@ Settings parseArgs(int& argc, char** argv) {
 // Every case's output check at sizes that exercise row ends and steps, the
 // two timed sizes excepted (the timed run checks those itself).
 int checkAll(const Settings& s) {
-    static const Size sizes[] = {{1, 1}, {37, 5}, {130, 17}};
     int failures = 0, cases = 0;
     for (const OpDef& op : registry()) {
         if (op.name.find(s.filter) == std::string::npos) continue;
-        for (Size z : sizes) {
+        for (Size z : op.checkSizes) {
             ++cases;
             const std::string error = checkEveryTarget(*op.make(z));
             if (!error.empty()) {
@@ -326,6 +327,9 @@ int main(int argc, char** argv) {
             if (ops[o].peer != Peer::None)
                 add(benchName(ops[o], sizes[z], kPeerSide), s,
                     [o, z](benchmark::State& t) { runCase(t, o, z, kPeerSide); });
+            if (ops[o].fftw)
+                add(benchName(ops[o], sizes[z], kFftwSide), s,
+                    [o, z](benchmark::State& t) { runCase(t, o, z, kFftwSide); });
         }
     }
 
@@ -378,6 +382,7 @@ int main(int argc, char** argv) {
                 const double t = collector.seconds(benchName(ops[o], z, kPeerSide)) * 1e9 / pixels;
                 (ops[o].peer == Peer::OpenCV ? row.opencv : row.fftw) = t;
             }
+            if (ops[o].fftw) row.fftw = collector.seconds(benchName(ops[o], z, kFftwSide)) * 1e9 / pixels;
             const BandwidthRow& b = bw[sizeName(z)];
             const double gbs = facts.stream == Stream::kRmw ? b.rmw : facts.stream == Stream::kRead ? b.read : b.copy;
             if (facts.bytes > 0 && gbs > 0) row.bound = facts.bytes / (gbs * kGB) * 1e9 / pixels;

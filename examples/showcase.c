@@ -39,6 +39,9 @@
     defined(QVN_HAS_qvniCopy_8u_C3P3R)
 #define SHOW_THRESHOLD 1
 #endif
+#if defined(QVN_HAS_qvniDFTFwd_RToPack_32f_C3R) && defined(QVN_HAS_qvniMulPack_32f_C3IR)
+#define SHOW_FFT 1
+#endif
 
 enum { W = 512, H = 384, MAX_PICTURES = 32 };
 
@@ -500,6 +503,88 @@ int main(int argc, char** argv) {
                            planes[0], pstep, W, H, 1);
         }
         for (c = 0; c < 3; ++c) qvniFree(planes[c]);
+    }
+#endif
+
+#ifdef SHOW_FFT
+    /* Frequencies: the DFT of the test image (any size: 512 x 384), its
+     * magnitude spectrum, and a low-pass filter applied as a product of
+     * packed spectra (a Gaussian transfer function of the frequency). */
+    {
+        const QvnRoiSize whole = {W, H};
+        int fstep = 0, cstep = 0, sstep = 0, is = 0, bs = 0, ms = 0, x, y, c;
+        Qvn32f* f = qvniMalloc_32f_C3(W, H, &fstep);
+        Qvn32f* filter = qvniMalloc_32f_C3(W, H, &fstep);
+        Qvn32f* mag = qvniMalloc_32f_C3(W, H, &fstep);
+        Qvn32fc* full = qvniMalloc_32fc_C3(W, H, &cstep);
+        Qvn8u *spec = NULL, *buf = NULL, *magBuf = NULL;
+        int ok1 = f && filter && mag && full &&
+                  ok("qvniDFTGetSize_R_32f", qvniDFTGetSize_R_32f(whole, qvnFftDivInvByN, 0, &sstep, &is, &bs)) &&
+                  ok("qvniMagnitudePackGetBufferSize_32f", qvniMagnitudePackGetBufferSize_32f(3, W, &ms));
+        if (ok1) {
+            spec = (Qvn8u*)malloc((size_t)sstep);
+            buf = (Qvn8u*)malloc((size_t)bs);
+            magBuf = (Qvn8u*)malloc((size_t)ms);
+            ok1 = spec && buf && magBuf &&
+                  ok("qvniDFTInit_R_32f", qvniDFTInit_R_32f(whole, qvnFftDivInvByN, 0, (QvnDftSpec*)spec, NULL));
+        }
+        if (ok1) {
+            for (y = 0; y < H; ++y)
+                for (x = 0; x < 3 * W; ++x)
+                    ((Qvn32f*)((char*)f + (size_t)y * fstep))[x] = img[(size_t)y * step + x];
+            /* the transfer function over the full spectrum, packed */
+            for (y = 0; y < H; ++y)
+                for (x = 0; x < W; ++x) {
+                    const double u = (x <= W / 2 ? x : W - x) / (double)W, v = (y <= H / 2 ? y : H - y) / (double)H;
+                    const float g = (float)exp(-(u * u + v * v) / (2 * 0.03 * 0.03));
+                    for (c = 0; c < 3; ++c) {
+                        Qvn32fc* e = (Qvn32fc*)((char*)full + (size_t)y * cstep) + 3 * x + c;
+                        e->re = g;
+                        e->im = 0;
+                    }
+                }
+            if (ok("qvniDFTFwd_RToPack_32f_C3IR", qvniDFTFwd_RToPack_32f_C3IR(f, fstep, (QvnDftSpec*)spec, buf)) &&
+                ok("qvniMagnitudePack_32f_C3R", qvniMagnitudePack_32f_C3R(f, fstep, mag, fstep, whole, magBuf))) {
+                /* log magnitude, the zero frequency moved to the centre */
+                for (y = 0; y < H; ++y)
+                    for (x = 0; x < 3 * W; ++x) {
+                        const Qvn32f m = ((Qvn32f*)((char*)mag + (size_t)((y + H / 2) % H) * fstep))[(x + 3 * W / 2) % (3 * W)];
+                        const double l = 22.0 * log(1.0 + m);
+                        work[(size_t)y * step + x] = (Qvn8u)(l > 255 ? 255 : l);
+                    }
+                writeImage("dft_spectrum.png",
+                           "The magnitude spectrum of the test image, each channel on a log scale with the zero "
+                           "frequency in the centre: <code>qvniDFTFwd_RToPack_32f_C3IR</code> transforms the image "
+                           "to packed spectra, <code>qvniMagnitudePack_32f_C3R</code> expands them to magnitudes. "
+                           "The red and green ramps, which jump where the image repeats, make the cross; the "
+                           "blue rings fill the middle.",
+                           work, step, W, H, 3);
+            }
+            if (ok("qvniCplxExtendToPack_32fc32f_C3R",
+                   qvniCplxExtendToPack_32fc32f_C3R(full, cstep, filter, fstep, whole)) &&
+                ok("qvniMulPack_32f_C3IR", qvniMulPack_32f_C3IR(filter, fstep, f, fstep, whole)) &&
+                ok("qvniDFTInv_PackToR_32f_C3IR", qvniDFTInv_PackToR_32f_C3IR(f, fstep, (QvnDftSpec*)spec, buf))) {
+                for (y = 0; y < H; ++y)
+                    for (x = 0; x < 3 * W; ++x) {
+                        const Qvn32f v = ((Qvn32f*)((char*)f + (size_t)y * fstep))[x] + 0.5f;
+                        work[(size_t)y * step + x] = (Qvn8u)(v < 0 ? 0 : v > 255 ? 255 : v);
+                    }
+                writeImage("dft_lowpass.png",
+                           "The test image low-pass filtered in the frequency domain: its packed spectra times a "
+                           "Gaussian of the frequency (<code>qvniCplxExtendToPack_32fc32f_C3R</code> packs it, "
+                           "<code>qvniMulPack_32f_C3IR</code> multiplies), transformed back by "
+                           "<code>qvniDFTInv_PackToR_32f_C3IR</code>. The fine outer rings vanish, the coarse inner "
+                           "ones stay; the edges blend, as the transform sees the image repeat.",
+                           work, step, W, H, 3);
+            }
+        }
+        free(spec);
+        free(buf);
+        free(magBuf);
+        qvniFree(f);
+        qvniFree(filter);
+        qvniFree(mag);
+        qvniFree(full);
     }
 #endif
 

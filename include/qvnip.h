@@ -9,5 +9,6 @@
 #include "qvnip_geom.h"
 #include "qvnip_move.h"
 #include "qvnip_stats.h"
+#include "qvnip_transform.h"
 
 #endif /* QVNIP_H */

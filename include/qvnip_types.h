@@ -217,11 +217,23 @@ enum {
     qvnCmpGreater   = 4
 };
 
+/* Normalisation of the FFT and DFT (the flag of their size queries and
+ * initialisers): each axis of length N multiplies the forward or the inverse
+ * result by the factor named, so that the 2D factor is the product. */
+enum {
+    qvnFftDivFwdByN  = 1, /* forward times 1/N, inverse times 1 */
+    qvnFftDivInvByN  = 2, /* forward times 1, inverse times 1/N */
+    qvnFftDivBySqrtN = 4, /* both times 1/sqrt(N) */
+    qvnFftNoDivByAny = 8  /* neither */
+};
+
 /* ---- specs ---------------------------------------------------------------
  * Precomputed state in caller memory of the size that the family's size
  * query reports; the library places it at the first 64-byte boundary of that
  * memory and never frees it. */
 typedef struct QvnFilterBorderSpec QvnFilterBorderSpec;
+typedef struct QvnFftSpec QvnFftSpec;
+typedef struct QvnDftSpec QvnDftSpec;
 
 /* ---- version record ---------------------------------------------------- */
 typedef struct {

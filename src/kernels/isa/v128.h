@@ -672,6 +672,19 @@ inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) { return zipLo(a, b); }
 template <class T>
 inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
+// ---- frequency transforms ------------------------------------------------------------
+// The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
+inline void transposeSquare(Vec<float> r[4]) { _MM_TRANSPOSE4_PS(r[0].v, r[1].v, r[2].v, r[3].v); }
+// Two vectors of interleaved pairs (a0 b0 a1 b1 ...) to the a's and the b's,
+// in whole-vector order, and back.
+inline void deinterleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    out[0] = {_mm_shuffle_ps(in[0].v, in[1].v, 0x88)};
+    out[1] = {_mm_shuffle_ps(in[0].v, in[1].v, 0xDD)};
+}
+inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    out[0] = {_mm_unpacklo_ps(in[0].v, in[1].v)};
+    out[1] = {_mm_unpackhi_ps(in[0].v, in[1].v)};
+}
 
 // ---- box filter and window sums (filter family) --------------------------------------------
 // 32-bit lanes moved up by K lanes: lane i takes lane i - K, the lowest K
@@ -689,6 +702,7 @@ inline Vec<T> repeatLastPixel(Vec<T> a) {
     static_assert(sizeof(T) == 4 && C >= 1 && C <= 4, "32-bit lanes, 1 to 4 channels");
     constexpr int l0 = 4 - C, l1 = 4 - C + 1 % C, l2 = 4 - C + 2 % C, l3 = 4 - C + 3 % C;
     return fromBits<T>(_mm_shuffle_epi32(bits(a), (l3 << 6) | (l2 << 4) | (l1 << 2) | l0));
+}
 
 // ---- warp family ---------------------------------------------------------------------------
 // The largest integer not above each lane, for lanes within +-2^31 (the

@@ -533,6 +533,37 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
     else return fromBits<T>(_mm256_unpackhi_epi64(bits(a), bits(b)));
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm256_packs_epi32(lo.v, hi.v)}; }
+// ---- frequency transforms ------------------------------------------------------------
+// The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
+inline void transposeSquare(Vec<float> r[8]) {
+    __m256 t[8], s[8];
+    for (int i = 0; i < 4; ++i) {
+        t[2 * i] = _mm256_unpacklo_ps(r[2 * i].v, r[2 * i + 1].v);
+        t[2 * i + 1] = _mm256_unpackhi_ps(r[2 * i].v, r[2 * i + 1].v);
+    }
+    for (int g = 0; g < 2; ++g) {
+        s[4 * g] = _mm256_shuffle_ps(t[4 * g], t[4 * g + 2], 0x44);
+        s[4 * g + 1] = _mm256_shuffle_ps(t[4 * g], t[4 * g + 2], 0xEE);
+        s[4 * g + 2] = _mm256_shuffle_ps(t[4 * g + 1], t[4 * g + 3], 0x44);
+        s[4 * g + 3] = _mm256_shuffle_ps(t[4 * g + 1], t[4 * g + 3], 0xEE);
+    }
+    for (int q = 0; q < 4; ++q) {
+        r[q] = {_mm256_permute2f128_ps(s[q], s[q + 4], 0x20)};
+        r[q + 4] = {_mm256_permute2f128_ps(s[q], s[q + 4], 0x31)};
+    }
+}
+// Two vectors of interleaved pairs (a0 b0 a1 b1 ...) to the a's and the b's,
+// in whole-vector order, and back.
+inline void deinterleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    const __m256 a = _mm256_shuffle_ps(in[0].v, in[1].v, 0x88), b = _mm256_shuffle_ps(in[0].v, in[1].v, 0xDD);
+    out[0] = {_mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(a), 0xD8))};
+    out[1] = {_mm256_castpd_ps(_mm256_permute4x64_pd(_mm256_castps_pd(b), 0xD8))};
+}
+inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    const __m256 lo = _mm256_unpacklo_ps(in[0].v, in[1].v), hi = _mm256_unpackhi_ps(in[0].v, in[1].v);
+    out[0] = {_mm256_permute2f128_ps(lo, hi, 0x20)};
+    out[1] = {_mm256_permute2f128_ps(lo, hi, 0x31)};
+}
 
 // ---- box filter and window sums (filter family) --------------------------------------------
 // 32-bit lanes moved up by K lanes across the whole vector (see v128).

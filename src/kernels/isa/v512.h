@@ -591,6 +591,45 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
     else return fromBits<T>(_mm512_unpackhi_epi64(bits(a), bits(b)));
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm512_packs_epi32(lo.v, hi.v)}; }
+// ---- frequency transforms ------------------------------------------------------------
+// The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place:
+// 4 x 4 blocks within each 16-byte lane, then the lanes of each group of four
+// vectors as a 4 x 4 block of lanes.
+inline void transposeSquare(Vec<float> r[16]) {
+    __m512 t[16], s[16];
+    for (int i = 0; i < 8; ++i) {
+        t[2 * i] = _mm512_unpacklo_ps(r[2 * i].v, r[2 * i + 1].v);
+        t[2 * i + 1] = _mm512_unpackhi_ps(r[2 * i].v, r[2 * i + 1].v);
+    }
+    for (int g = 0; g < 4; ++g) {
+        s[4 * g] = _mm512_shuffle_ps(t[4 * g], t[4 * g + 2], 0x44);
+        s[4 * g + 1] = _mm512_shuffle_ps(t[4 * g], t[4 * g + 2], 0xEE);
+        s[4 * g + 2] = _mm512_shuffle_ps(t[4 * g + 1], t[4 * g + 3], 0x44);
+        s[4 * g + 3] = _mm512_shuffle_ps(t[4 * g + 1], t[4 * g + 3], 0xEE);
+    }
+    for (int q = 0; q < 4; ++q) {
+        const __m512 a = _mm512_shuffle_f32x4(s[q], s[q + 4], 0x88), b = _mm512_shuffle_f32x4(s[q], s[q + 4], 0xDD);
+        const __m512 c = _mm512_shuffle_f32x4(s[q + 8], s[q + 12], 0x88), d = _mm512_shuffle_f32x4(s[q + 8], s[q + 12], 0xDD);
+        r[q] = {_mm512_shuffle_f32x4(a, c, 0x88)};
+        r[q + 4] = {_mm512_shuffle_f32x4(b, d, 0x88)};
+        r[q + 8] = {_mm512_shuffle_f32x4(a, c, 0xDD)};
+        r[q + 12] = {_mm512_shuffle_f32x4(b, d, 0xDD)};
+    }
+}
+// Two vectors of interleaved pairs (a0 b0 a1 b1 ...) to the a's and the b's,
+// in whole-vector order, and back.
+inline void deinterleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    const __m512i even = _mm512_setr_epi32(0, 2, 4, 6, 8, 10, 12, 14, 16, 18, 20, 22, 24, 26, 28, 30);
+    const __m512i odd = _mm512_setr_epi32(1, 3, 5, 7, 9, 11, 13, 15, 17, 19, 21, 23, 25, 27, 29, 31);
+    out[0] = {_mm512_permutex2var_ps(in[0].v, even, in[1].v)};
+    out[1] = {_mm512_permutex2var_ps(in[0].v, odd, in[1].v)};
+}
+inline void interleave2(const Vec<float> in[2], Vec<float> out[2]) {
+    const __m512i lo = _mm512_setr_epi32(0, 16, 1, 17, 2, 18, 3, 19, 4, 20, 5, 21, 6, 22, 7, 23);
+    const __m512i hi = _mm512_setr_epi32(8, 24, 9, 25, 10, 26, 11, 27, 12, 28, 13, 29, 14, 30, 15, 31);
+    out[0] = {_mm512_permutex2var_ps(in[0].v, lo, in[1].v)};
+    out[1] = {_mm512_permutex2var_ps(in[0].v, hi, in[1].v)};
+}
 
 // ---- box filter and window sums (filter family) --------------------------------------------
 // 32-bit lanes moved up by K lanes across the whole vector (see v128).
