@@ -18,29 +18,55 @@ inline void copyTail(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
         if (n & piece) std::memcpy(d, s, std::size_t(piece)), s += piece, d += piece;
 }
 
-// Copies n bytes: a head up to the first vector-aligned destination byte,
-// then four vectors per step, then one, then the tail. Every element type
-// copies through this one kernel. Rows of a vector or more take the head and
-// the tail as one unaligned vector each, which the aligned vectors overlap
-// (writing the same bytes again): short rows cost a few stores, not a store
-// per power of two.
-template <class Store>
-inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
-    using V = isa::Vec<std::uint8_t>;
-    constexpr std::int64_t kV = isa::kVectorBytes;
-    if (n < kV) return copyTail(s, d, n);
-    isa::storeU(d, isa::loadU(s));
-    std::int64_t i = headToAlign(d, n);
+// The vector loop of copyBytes on one layer's vectors (L: isa or isa_offset,
+// named by a tag below): a head up to the first vector-aligned destination
+// byte, then four vectors per step, then one, then the tail. Rows of a vector
+// or more take the head and the tail as one unaligned vector each, which the
+// aligned vectors overlap (writing the same bytes again): short rows cost a
+// few stores, not a store per power of two.
+template <class Store, class L>
+inline void copyVectors(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    using V = typename L::V;
+    constexpr std::int64_t kV = L::kBytes;
+    L::storeU(d, L::loadU(s));
+    std::int64_t i = headToAlign<std::uint8_t, kV>(d, n);
     for (; i + 4 * kV <= n; i += 4 * kV) {
-        const V a = isa::loadU(s + i), b = isa::loadU(s + i + kV), c = isa::loadU(s + i + 2 * kV),
-                e = isa::loadU(s + i + 3 * kV);
+        const V a = L::loadU(s + i), b = L::loadU(s + i + kV), c = L::loadU(s + i + 2 * kV),
+                e = L::loadU(s + i + 3 * kV);
         Store::store(d + i, a);
         Store::store(d + i + kV, b);
         Store::store(d + i + 2 * kV, c);
         Store::store(d + i + 3 * kV, e);
     }
-    for (; i + kV <= n; i += kV) Store::store(d + i, isa::loadU(s + i));
-    if (i < n) isa::storeU(d + n - kV, isa::loadU(s + n - kV));
+    for (; i + kV <= n; i += kV) Store::store(d + i, L::loadU(s + i));
+    if (i < n) L::storeU(d + n - kV, L::loadU(s + n - kV));
+}
+
+#define QVN_COPY_LAYER(Name, lay)                                                       \
+    struct Name {                                                                      \
+        using V = lay::Vec<std::uint8_t>;                                              \
+        static constexpr std::int64_t kBytes = lay::kVectorBytes;                      \
+        static V loadU(const std::uint8_t* p) { return lay::loadU(p); }                \
+        static void storeU(std::uint8_t* p, V v) { lay::storeU(p, v); }                \
+    };
+QVN_COPY_LAYER(WholeVectors, isa)
+QVN_COPY_LAYER(OffsetVectors, isa_offset)
+#undef QVN_COPY_LAYER
+
+// Copies n bytes; every element type copies through this one kernel. When the
+// source sits at another offset within a vector than the destination, every
+// load of the aligned-store loop is off the alignment and takes the offset
+// layer (see isa.h: out of cache a 64-byte loop at an offset takes about
+// twice the time of a 32-byte one).
+template <class Store>
+inline void copyBytes(const std::uint8_t* s, std::uint8_t* d, std::int64_t n) {
+    if (n < std::int64_t(isa::kVectorBytes)) return copyTail(s, d, n);
+    const auto skew = (reinterpret_cast<std::uintptr_t>(s) - reinterpret_cast<std::uintptr_t>(d)) %
+                      std::uintptr_t(isa::kVectorBytes);
+    if (skew != 0 && isa_offset::kVectorBytes < isa::kVectorBytes)
+        copyVectors<Store, OffsetVectors>(s, d, n);
+    else
+        copyVectors<Store, WholeVectors>(s, d, n);
 }
 
 // Element sources of the rows below: another image's row, or a repeated
