@@ -13,7 +13,8 @@
 // or tail changes, so that float results are the same bits everywhere:
 //   - 2D float sums: 0, then + v * k for kernel row j ascending, column i
 //     ascending (one multiply and one add each, never fused);
-//   - separable float sums (a rank-1 kernel k(j, i) = col(j) * row(i)):
+//   - separable float sums (a rank-1 kernel k(j, i) = col(j) * row(i), where
+//     the caller picks them: the choice depends on the kernel alone):
 //     t(i) = sum over j of col(j) * v(j, i) as above, then sum over i of
 //     row(i) * t(i);
 //   - integer sums: exact products of 16-bit coefficients and pixels, added in
@@ -21,7 +22,8 @@
 // Vector blocks compute several output rows per pass (each source row is
 // loaded once per group) and several vectors per row; a row's last block
 // overlaps the one before it (the same values again), and rows narrower than
-// a block are done element by element with the same arithmetic.
+// a block are done in narrower blocks or element by element with the same
+// arithmetic.
 //
 // Integer results: float sums are clamped to +-65536 (NaN to -65536),
 // rounded by the QvnRounding mode and saturated to the destination; integer
@@ -302,12 +304,6 @@ QVN_ALWAYS_INLINE void forBlocks(int64_t n, int64_t B, const Block& block, const
     if (e < n) block(n - B);
 }
 
-// The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
-// of K::R output rows (of two for kernels lower than K::R - 1), then single rows; blocks of K::kBlock elements along
-// them, the last overlapping, or element by element (K::scalar) in rows
-// narrower than a block. A pass walks each source row of its window once
-// (K::Pass, its taps for the pass's rows that the row feeds) and asks for the
-// next pass's new rows ahead.
 // Elements from p to the next vector-aligned element (0 when p is not even
 // element-aligned).
 template <class D>
@@ -334,6 +330,14 @@ QVN_ALWAYS_INLINE void passRows(int kh, const Row& row) {
     });
 }
 
+// The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
+// of K::R output rows (of two for kernels lower than K::R - 1), then single
+// rows; blocks of K::kBlock elements along them, the last overlapping. Rows
+// narrower than that run in blocks of K::kNarrowBlock elements (one vector,
+// where K has them), and rows narrower than those element by element
+// (K::scalar). A pass walks each source row of its window once (K::Pass, its
+// taps for the pass's rows that the row feeds) and asks for the next pass's
+// new rows ahead.
 template <class K, class S, class D>
 struct RowPasses {
     const K& self() const { return static_cast<const K&>(*this); }
@@ -358,11 +362,13 @@ struct RowPasses {
         const auto scalar = [&](int64_t e) {
             for (int r = 0; r < RR; ++r) byteOffset(dst, (y + r) * dstep)[e] = self().scalar(src, sstep, y + r, e);
         };
-        if (K::kNarrowBlock < K::kBlock && w < K::kBlock) {  // narrow pieces (a border's strips) in narrow blocks
-            forBlocks(w, K::kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) {
-                block<RR, true>(src, sstep, dst, dstep, y, e);
-            }, scalar);
-            return;
+        if constexpr (K::kNarrowBlock < K::kBlock) {
+            if (w < K::kBlock) {  // narrow pieces (a border's strips) in narrow blocks
+                forBlocks(w, K::kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) {
+                    block<RR, true>(src, sstep, dst, dstep, y, e);
+                }, scalar);
+                return;
+            }
         }
         // rows and blocks melt into the kernel call, which fences what streamed
         forBlocks(w, K::kBlock, [&](int64_t e) __attribute__((always_inline)) {
@@ -513,10 +519,15 @@ struct FloatSeparable {
                 D* out = byteOffset(dst, (y + r) * dstep) + start;
                 const W* row = t[r];
                 const auto scalar = [&](int64_t e) { out[e] = finishScalar<D>(rowSum(row + e), fin); };
-                if (kNarrowBlock < kBlock && m < kBlock)
-                    forBlocks(m, kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) { rowBlock<true>(row + e, out + e); }, scalar);
-                else
-                    forBlocks(m, kBlock, [&](int64_t e) __attribute__((always_inline)) { rowBlock<false>(row + e, out + e); }, scalar);
+                const auto wide = [&](int64_t e) __attribute__((always_inline)) { rowBlock<false>(row + e, out + e); };
+                if constexpr (kNarrowBlock < kBlock) {
+                    if (m < kBlock) {
+                        forBlocks(m, kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) { rowBlock<true>(row + e, out + e); },
+                                  scalar);
+                        continue;
+                    }
+                }
+                forBlocks(m, kBlock, wide, scalar);
             }
         }
     }
