@@ -434,7 +434,8 @@ inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* 
     const Layout l = layoutOf(s);
     const std::int64_t C = L::kElems, bytes = roi.width * roi.height * C * std::int64_t(sizeof(T));
     const bool stream = useStreamingStores(std::uint64_t(bytes), kStreamThreshold, 2 * std::uint64_t(bytes));
-    // the separable kernels store chunk by chunk, overlapping: they keep to the cache
+    // the 8u separable kernel stores chunk by chunk through Int2D's one-row
+    // passes, overlapping: it keeps to the cache
     const auto run = [&](auto kernel, bool streams = true) {
         kernel.stream = stream && streams;
         runBordered<T, L>(src, srcStep, dst, dstStep, roi, border, value, reachOf(s.kw, s.kh), buffer, kernel);
@@ -459,9 +460,8 @@ inline void runSpec(const FilterSpec& s, const T* src, std::int64_t srcStep, T* 
         }
         const kf::FloatFinish<float> fin{s.offsetF, s.rounding & 3};
         using Sep = kf::FloatSeparable<float, T, T>;
-        if (s.separable && Sep::fits(s.kw, C))
-            return run(Sep{block<const float>(&s, l.rowFactors), block<const float>(&s, l.colFactors), s.kw, s.kh, C, fin},
-                       false);
+        if (s.separable && Sep::fits(s.kw, C) && Sep::pays(s.kw, s.kh))
+            return run(Sep{block<const float>(&s, l.rowFactors), block<const float>(&s, l.colFactors), s.kw, s.kh, C, fin});
         run(kf::Float2D<float, T, T>{{}, block<const float>(&s, l.converted), s.kw, s.kh, C, fin});
     }
 }

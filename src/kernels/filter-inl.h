@@ -13,7 +13,8 @@
 // or tail changes, so that float results are the same bits everywhere:
 //   - 2D float sums: 0, then + v * k for kernel row j ascending, column i
 //     ascending (one multiply and one add each, never fused);
-//   - separable float sums (a rank-1 kernel k(j, i) = col(j) * row(i)):
+//   - separable float sums (a rank-1 kernel k(j, i) = col(j) * row(i), where
+//     the caller picks them: the choice depends on the kernel alone):
 //     t(i) = sum over j of col(j) * v(j, i) as above, then sum over i of
 //     row(i) * t(i);
 //   - integer sums: exact products of 16-bit coefficients and pixels, added in
@@ -21,7 +22,8 @@
 // Vector blocks compute several output rows per pass (each source row is
 // loaded once per group) and several vectors per row; a row's last block
 // overlaps the one before it (the same values again), and rows narrower than
-// a block are done element by element with the same arithmetic.
+// a block are done in narrower blocks or element by element with the same
+// arithmetic.
 //
 // Integer results: float sums are clamped to +-65536 (NaN to -65536),
 // rounded by the QvnRounding mode and saturated to the destination; integer
@@ -58,6 +60,16 @@ using std::uint32_t;
 template <class T>
 inline const T* rowAt(const T* p, int64_t step, int64_t y) {
     return byteOffset(p, y * step);
+}
+
+// f(std::integral_constant<int, k>) for k = From .. To - 1, unrolled (a
+// compile-time index keeps arrays of accumulators in registers).
+template <int From, int To, class F>
+QVN_ALWAYS_INLINE void unrolled(const F& f) {
+    if constexpr (From < To) {
+        f(std::integral_constant<int, From>{});
+        unrolled<From + 1, To>(f);
+    }
 }
 
 // ---- float sums to integers ----------------------------------------------------------------------
@@ -227,12 +239,16 @@ template <class D, int NV, class W>
 QVN_ALWAYS_INLINE void storeResults(D* p, const V<W>* acc, const FloatFinish<W>& fin, bool stream) {
     constexpr int64_t L = int64_t(isa::kLanes<W>);
     if constexpr (std::is_same_v<D, W>) {
-        for (int k = 0; k < NV; ++k) put(p + k * L, acc[k], stream);  // float images take no offset
+        unrolled<0, NV>([&](auto k) __attribute__((always_inline)) {  // float images take no offset
+            put(p + k.value * L, acc[k.value], stream);
+        });
     } else {
         const V<W> off = isa::set1(fin.offset);
         static_assert(std::is_same_v<W, float>, "integer destinations from float sums");
         V<int32_t> t[NV];
-        for (int k = 0; k < NV; ++k) t[k] = roundVector(isa::add(acc[k], off), fin.mode);
+        unrolled<0, NV>([&](auto k) __attribute__((always_inline)) {
+            t[k.value] = roundVector(isa::add(acc[k.value], off), fin.mode);
+        });
         if constexpr (sizeof(D) == 2) {
             static_assert(NV % 2 == 0, "pairs of vectors");
             for (int k = 0; k < NV; k += 2) put(p + k * L, isa::packSat<D>(t[k], t[k + 1]), stream);
@@ -288,21 +304,6 @@ QVN_ALWAYS_INLINE void forBlocks(int64_t n, int64_t B, const Block& block, const
     if (e < n) block(n - B);
 }
 
-// f(std::integral_constant<int, k>) for k = From .. To - 1, unrolled.
-template <int From, int To, class F>
-QVN_ALWAYS_INLINE void unrolled(const F& f) {
-    if constexpr (From < To) {
-        f(std::integral_constant<int, From>{});
-        unrolled<From + 1, To>(f);
-    }
-}
-
-// The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
-// of K::R output rows (of two for kernels lower than K::R - 1), then single rows; blocks of K::kBlock elements along
-// them, the last overlapping, or element by element (K::scalar) in rows
-// narrower than a block. A pass walks each source row of its window once
-// (K::Pass, its taps for the pass's rows that the row feeds) and asks for the
-// next pass's new rows ahead.
 // Elements from p to the next vector-aligned element (0 when p is not even
 // element-aligned).
 template <class D>
@@ -311,10 +312,36 @@ inline int64_t alignmentHead(const D* p) {
     return a % sizeof(D) != 0 ? 0 : int64_t((isa::kVectorBytes - a % isa::kVectorBytes) % isa::kVectorBytes / sizeof(D));
 }
 
+// The source rows of a pass of RR output rows over a kernel of kh rows (kh >=
+// RR - 1), in order: row(s, lo, hi) for window row s, which feeds the output
+// rows [lo, hi] (compile-time constants) of the pass, [max(0, s - kh + 1),
+// min(RR - 1, s)]: the first and last RR - 1 rows of the window feed a
+// growing and a shrinking range, the others all. Each output row's sum thus
+// takes its kernel rows in ascending order.
+template <int RR, class Row>
+QVN_ALWAYS_INLINE void passRows(int kh, const Row& row) {
+    using std::integral_constant;
+    unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
+        row(k.value, integral_constant<int, 0>{}, k);
+    });
+    for (int s = RR - 1; s < kh; ++s) row(s, integral_constant<int, 0>{}, integral_constant<int, RR - 1>{});
+    unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
+        row(kh + k.value, integral_constant<int, decltype(k)::value + 1>{}, integral_constant<int, RR - 1>{});
+    });
+}
+
+// The row loop of the 2D kernels (K derives from RowPasses<K, S, D>): passes
+// of K::R output rows (of two for kernels lower than K::R - 1), then single
+// rows; blocks of K::kBlock elements along them, the last overlapping. Rows
+// narrower than that run in blocks of K::kNarrowBlock elements (one vector,
+// where K has them), and rows narrower than those element by element
+// (K::scalar). A pass walks each source row of its window once (K::Pass, its
+// taps for the pass's rows that the row feeds) and asks for the next pass's
+// new rows ahead.
 template <class K, class S, class D>
 struct RowPasses {
     const K& self() const { return static_cast<const K&>(*this); }
-    int64_t blockElems() const { return K::kBlock; }
+    int64_t blockElems() const { return K::kNarrowBlock; }
 
     void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
         int64_t y = 0;
@@ -332,36 +359,36 @@ struct RowPasses {
                                 int64_t h) const {
         const int kh = self().kh;
         const int64_t ahead = y + kh + RR - 1, last = h + kh - 2;
+        const auto scalar = [&](int64_t e) {
+            for (int r = 0; r < RR; ++r) byteOffset(dst, (y + r) * dstep)[e] = self().scalar(src, sstep, y + r, e);
+        };
+        if constexpr (K::kNarrowBlock < K::kBlock) {
+            if (w < K::kBlock) {  // narrow pieces (a border's strips) in narrow blocks
+                forBlocks(w, K::kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) {
+                    block<RR, true>(src, sstep, dst, dstep, y, e);
+                }, scalar);
+                return;
+            }
+        }
         // rows and blocks melt into the kernel call, which fences what streamed
         forBlocks(w, K::kBlock, [&](int64_t e) __attribute__((always_inline)) {
             prefetchRows(src, sstep, ahead, RR, last, e, K::kBlock * int64_t(sizeof(S)));
-            block<RR>(src, sstep, dst, dstep, y, e);
-        }, [&](int64_t e) {
-            for (int r = 0; r < RR; ++r) byteOffset(dst, (y + r) * dstep)[e] = self().scalar(src, sstep, y + r, e);
-        }, self().stream ? alignmentHead(byteOffset(dst, y * dstep)) : 0);
+            block<RR, false>(src, sstep, dst, dstep, y, e);
+        }, scalar, self().stream ? alignmentHead(byteOffset(dst, y * dstep)) : 0);
     }
 
-    // A pass of RR rows (kh >= RR - 1): source row s feeds the output rows
-    // [max(0, s - kh + 1), min(RR - 1, s)]: the first and last RR - 1 rows
-    // of the window feed a growing and a shrinking range, the others all.
-    template <int RR>
+    // A pass of RR rows: the block's accumulators for each output row, fed
+    // by each source row once.
+    template <int RR, bool Narrow>
     QVN_ALWAYS_INLINE void block(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t y, int64_t e) const {
-        typename K::template Pass<RR> pass = self().template start<RR>();
-        const int kh = self().kh;
-        const auto at = [&](int s) __attribute__((always_inline)) { pass.p = rowAt(src, sstep, y + s) + e, pass.s = s; };
-        unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
-            at(k.value);
-            pass.template taps<0, decltype(k)::value>();
+        typename K::template Pass<RR, Narrow> pass = self().template start<RR, Narrow>();
+        passRows<RR>(self().kh, [&](int s, auto lo, auto hi) __attribute__((always_inline)) {
+            pass.p = rowAt(src, sstep, y + s) + e, pass.s = s;
+            pass.template taps<decltype(lo)::value, decltype(hi)::value>();
         });
-        for (int s = RR - 1; s < kh; ++s) {
-            at(s);
-            pass.template taps<0, RR - 1>();
-        }
-        unrolled<0, RR - 1>([&](auto k) __attribute__((always_inline)) {
-            at(kh + k.value);
-            pass.template taps<decltype(k)::value + 1, RR - 1>();
+        unrolled<0, RR>([&](auto r) __attribute__((always_inline)) {
+            self().template store<Narrow>(pass.acc[r.value], byteOffset(dst, (y + r.value) * dstep) + e);
         });
-        for (int r = 0; r < RR; ++r) self().store(pass.acc[r], byteOffset(dst, (y + r) * dstep) + e);
     }
 };
 
@@ -373,6 +400,11 @@ struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
     static constexpr int R = rowsPerPass(NV);
     static constexpr int64_t L = int64_t(isa::kLanes<W>);
     static constexpr int64_t kBlock = NV * L;
+    // Float images run pieces narrower than a block (a border's strips) in
+    // blocks of one vector; integer destinations need whole blocks to narrow.
+    static constexpr int64_t kNarrowBlock = std::is_same_v<D, W> ? L : kBlock;
+    template <bool Narrow>
+    static constexpr int kVectors = Narrow && std::is_same_v<D, W> ? 1 : NV;
 
     const W* coef;
     int kw, kh;
@@ -390,9 +422,10 @@ struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
     }
 
     // One source row's taps for the output rows [Lo, Hi] of a pass.
-    template <int RR>
+    template <int RR, bool Narrow>
     struct Pass {
-        V<W> acc[RR][NV];
+        static constexpr int NB = kVectors<Narrow>;
+        V<W> acc[RR][NB];
         const S* p;  // the source row at the block
         const W* coef;
         int s, kw;
@@ -401,80 +434,102 @@ struct Float2D : RowPasses<Float2D<W, S, D>, S, D> {
         template <int Lo, int Hi>
         QVN_ALWAYS_INLINE void taps() {
             for (int i = 0; i < kw; ++i) {
-                V<W> v[NV];
-                for (int k = 0; k < NV; ++k) v[k] = isa::loadExpand<W>(p + i * stride + k * L);
-                for (int r = Lo; r <= Hi; ++r) {
-                    const V<W> c = coefVec(coef, (s - r) * kw + i);
-                    for (int k = 0; k < NV; ++k) acc[r][k] = isa::add(acc[r][k], isa::mul(v[k], c));
-                }
+                V<W> v[NB];
+                unrolled<0, NB>([&](auto k) __attribute__((always_inline)) {
+                    v[k.value] = isa::inRegister(isa::loadExpand<W>(p + i * stride + k.value * L));
+                });
+                unrolled<Lo, Hi + 1>([&](auto r) __attribute__((always_inline)) {
+                    const V<W> c = coefVec(coef, (s - r.value) * kw + i);
+                    unrolled<0, NB>([&](auto k) __attribute__((always_inline)) {
+                        acc[r.value][k.value] = isa::add(acc[r.value][k.value], isa::mul(v[k.value], c));
+                    });
+                });
             }
         }
     };
 
-    template <int RR>
-    QVN_ALWAYS_INLINE Pass<RR> start() const {
-        Pass<RR> pass;
+    template <int RR, bool Narrow>
+    QVN_ALWAYS_INLINE Pass<RR, Narrow> start() const {
+        constexpr int NB = kVectors<Narrow>;
+        Pass<RR, Narrow> pass;
         pass.coef = coef, pass.kw = kw, pass.stride = stride;
-        for (int r = 0; r < RR; ++r)
-            for (int k = 0; k < NV; ++k) pass.acc[r][k] = isa::zero<W>();
+        unrolled<0, RR * NB>([&](auto n) __attribute__((always_inline)) {
+            pass.acc[n.value / NB][n.value % NB] = isa::zero<W>();
+        });
         return pass;
     }
-    QVN_ALWAYS_INLINE void store(const V<W>* acc, D* out) const { storeResults<D, NV>(out, acc, fin, stream); }
+    template <bool Narrow>
+    QVN_ALWAYS_INLINE void store(const V<W>* acc, D* out) const {
+        storeResults<D, kVectors<Narrow>>(out, acc, fin, stream);
+    }
 };
 
 // ---- separable float sums ------------------------------------------------------------------------
-// A rank-1 kernel col(j) * row(i): per output row, the column sums of a chunk
-// (the window's width) go to a scratch row, then the row sums of the scratch.
+// A rank-1 kernel col(j) * row(i): passes of R output rows over chunks of the
+// row; a pass puts the column sums of its rows (Float2D's passes of a one-
+// column kernel) in scratch rows that stay in the first-level cache, then
+// forms the row sums of each scratch row.
 template <class W, class S, class D>
 struct FloatSeparable {
     static constexpr int NV = kFloatVectors<D>;
+    static constexpr int R = rowsPerPass(NV);
     static constexpr int64_t L = int64_t(isa::kLanes<W>);
     static constexpr int64_t kBlock = NV * L;
-    // Output elements per chunk, and the most the scratch row holds.
-    static constexpr int64_t kChunk = 1024, kScratch = 2048 + 64;
+    static constexpr int64_t kNarrowBlock = Float2D<W, S, D>::kNarrowBlock;
+    // Output elements per chunk, and the most a scratch row holds.
+    static constexpr int64_t kChunk = 512, kScratch = 1024 + 64;
 
     const W *rowCoef, *colCoef;  // kw and kh blocks
     int kw, kh;
     int64_t stride;
     FloatFinish<W> fin;
-    bool stream = false;  // unused: the rows are stored chunk by chunk, overlapping, into the cache
+    bool stream = false;  // non-temporal stores where aligned
 
-    // Whether the scratch row holds a chunk with its horizontal neighbours.
+    // Whether a scratch row holds a chunk with its horizontal neighbours.
     static bool fits(int kw, int64_t stride) { return kChunk + (kw - 1) * stride <= kScratch; }
-    int64_t blockElems() const { return kBlock; }
+    // Whether the factors pay: kw + kh products per output and a round trip
+    // through the scratch rows against kw x kh products (not for 3 x 3).
+    static bool pays(int kw, int kh) { return kw * kh > 2 * (kw + kh); }
+    int64_t blockElems() const { return kNarrowBlock; }
 
     void operator()(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t h) const {
-        alignas(64) W t[kScratch];
-        const int64_t extra = (kw - 1) * stride;
-        for (int64_t y = 0; y < h; ++y) {
-            D* out = byteOffset(dst, y * dstep);
-            for (int64_t e0 = 0; e0 < w; e0 += kChunk) {
-                const int64_t start = w - e0 < kChunk && w > kChunk ? w - kChunk : e0;  // whole chunks only
-                const int64_t m = w - start < kChunk ? w - start : kChunk;
-                // the next output row's new source row (in the window), fetched ahead
-                const S* next = rowAt(src, sstep, y + 1 < h ? y + kh : y + kh - 1) + start;
-                columns(src, sstep, y, start, m + extra, t, next);
-                forBlocks(m, kBlock, [&](int64_t e) { rowBlock(t + e, out + start + e); },
-                          [&](int64_t e) { out[start + e] = finishScalar<D>(rowSum(t + e), fin); });
-            }
+        alignas(64) W t[R][kScratch];
+        int64_t y = 0;
+        if (kh >= R - 1) {
+            for (; y + R <= h; y += R) rows<R>(src, sstep, dst, dstep, w, y, h, t);
+        } else {  // two-row kernels: passes of two
+            for (; y + 2 <= h; y += 2) rows<2>(src, sstep, dst, dstep, w, y, h, t);
         }
+        for (; y < h; ++y) rows<1>(src, sstep, dst, dstep, w, y, h, t);
+        isa::storeFence();
     }
 
-    // t[x] = column sum at window element e0 + x, for x in [0, n).
-    void columns(const S* src, int64_t sstep, int64_t y, int64_t e0, int64_t n, W* t, const S* next) const {
-        const auto one = [&](int64_t x) {
-            isa::prefetch(next + x);
-            V<W> acc = isa::zero<W>();
-            for (int j = 0; j < kh; ++j)
-                acc = isa::add(acc, isa::mul(isa::loadExpand<W>(rowAt(src, sstep, y + j) + e0 + x), coefVec(colCoef, j)));
-            isa::storeU(t + x, acc);
-        };
-        forBlocks(n, L, one, [&](int64_t x) {
-            W acc = 0;
-            for (int j = 0; j < kh; ++j)
-                acc = acc + static_cast<W>(rowAt(src, sstep, y + j)[e0 + x]) * coefScalar(colCoef, j);
-            t[x] = acc;
-        });
+    template <int RR>
+    void rows(const S* src, int64_t sstep, D* dst, int64_t dstep, int64_t w, int64_t y, int64_t h,
+              W (*t)[kScratch]) const {
+        const int64_t extra = (kw - 1) * stride;
+        for (int64_t e0 = 0; e0 < w; e0 += kChunk) {
+            const int64_t start = w - e0 < kChunk && w > kChunk ? w - kChunk : e0;  // whole chunks only
+            const int64_t m = w - start < kChunk ? w - start : kChunk;
+            // t[r][x]: the column sum of output row y + r at window element start + x
+            const Float2D<W, S, W> columns{{}, colCoef, 1, kh, 1, {}};
+            columns.template rows<RR>(rowAt(src, sstep, y) + start, sstep, t[0], kScratch * int64_t(sizeof(W)),
+                                      m + extra, 0, h - y);
+            for (int r = 0; r < RR; ++r) {
+                D* out = byteOffset(dst, (y + r) * dstep) + start;
+                const W* row = t[r];
+                const auto scalar = [&](int64_t e) { out[e] = finishScalar<D>(rowSum(row + e), fin); };
+                const auto wide = [&](int64_t e) __attribute__((always_inline)) { rowBlock<false>(row + e, out + e); };
+                if constexpr (kNarrowBlock < kBlock) {
+                    if (m < kBlock) {
+                        forBlocks(m, kNarrowBlock, [&](int64_t e) __attribute__((always_inline)) { rowBlock<true>(row + e, out + e); },
+                                  scalar);
+                        continue;
+                    }
+                }
+                forBlocks(m, kBlock, wide, scalar);
+            }
+        }
     }
 
     W rowSum(const W* t) const {
@@ -483,14 +538,18 @@ struct FloatSeparable {
         return acc;
     }
 
-    void rowBlock(const W* t, D* out) const {
-        V<W> acc[NV];
-        for (int k = 0; k < NV; ++k) acc[k] = isa::zero<W>();
+    template <bool Narrow>
+    QVN_ALWAYS_INLINE void rowBlock(const W* t, D* out) const {
+        constexpr int NB = Float2D<W, S, D>::template kVectors<Narrow>;
+        V<W> acc[NB];
+        unrolled<0, NB>([&](auto k) __attribute__((always_inline)) { acc[k.value] = isa::zero<W>(); });
         for (int i = 0; i < kw; ++i) {
             const V<W> c = coefVec(rowCoef, i);
-            for (int k = 0; k < NV; ++k) acc[k] = isa::add(acc[k], isa::mul(isa::loadU(t + i * stride + k * L), c));
+            unrolled<0, NB>([&](auto k) __attribute__((always_inline)) {
+                acc[k.value] = isa::add(acc[k.value], isa::mul(isa::loadU(t + i * stride + k.value * L), c));
+            });
         }
-        storeResults<D, NV>(out, acc, fin, false);
+        storeResults<D, NB>(out, acc, fin, stream);
     }
 };
 
@@ -521,6 +580,7 @@ template <class S, class D>
 struct Int2D : RowPasses<Int2D<S, D>, S, D> {
     static constexpr int64_t L16 = int64_t(isa::kLanes<int16_t>);
     static constexpr int64_t kBlock = 2 * L16;  // two 16-bit vectors: four 32-bit sums
+    static constexpr int64_t kNarrowBlock = kBlock;  // no narrower blocks: the results narrow in fours
     static constexpr int R = rowsPerPass(4);
 
     const int32_t* pairs;  // (kw + 1) / 2 pair blocks per kernel row
@@ -544,7 +604,7 @@ struct Int2D : RowPasses<Int2D<S, D>, S, D> {
     }
 
     // One source row's pairs of taps for the output rows [Lo, Hi] of a pass.
-    template <int RR>
+    template <int RR, bool>
     struct Pass {
         V<int32_t> acc[RR][4];
         const S* p;  // the source row at the block
@@ -572,14 +632,15 @@ struct Int2D : RowPasses<Int2D<S, D>, S, D> {
         }
     };
 
-    template <int RR>
-    QVN_ALWAYS_INLINE Pass<RR> start() const {
-        Pass<RR> pass;
+    template <int RR, bool Narrow>
+    QVN_ALWAYS_INLINE Pass<RR, Narrow> start() const {
+        Pass<RR, Narrow> pass;
         pass.pairs = pairs, pass.kw = kw, pass.stride = stride;
         for (int r = 0; r < RR; ++r)
             for (int k = 0; k < 4; ++k) pass.acc[r][k] = isa::zero<int32_t>();
         return pass;
     }
+    template <bool>
     QVN_ALWAYS_INLINE void store(const V<int32_t>* acc, D* out) const {
         V<int32_t> v[4];
         for (int k = 0; k < 4; ++k) v[k] = fin.vector(acc[k]);

@@ -150,6 +150,21 @@ bool floatMatches(double sum, double mag, int mode, T got) {
     }
 }
 
+// The double sum of a float kernel (an integer kernel over divisor, as the
+// 16u filter takes it, where divisor is not 0) at one element against got.
+template <class T, class Px>
+bool floatSumMatches(const Kernel& k, int divisor, int mode, const Px& px, T got) {
+    double sum = 0, mag = 0;
+    for (int j = 0; j < k.kh; ++j)
+        for (int i = 0; i < k.kw; ++i) {
+            const double c = k.k[std::size_t(j * k.kw + i)];
+            const double term = (divisor != 0 ? double(float(c * (1.0 / divisor))) : c) * double(px(j, i));
+            sum += term, mag += std::fabs(term);
+        }
+    return floatMatches<T>(sum, mag, mode, got);
+}
+
+
 // ROI sizes: single pixels and rows, narrower and wider than the vector
 // blocks of every target, kernels larger than the ROI.
 const std::vector<QvnRoiSize> kRois = {{1, 1}, {2, 3}, {5, 4}, {37, 5}, {70, 9}, {150, 3}, {3, 17}, {131, 12}};
@@ -185,14 +200,7 @@ void sweep(const char* name, FilterFn<T> fn, int dataType, int C, bool integer) 
                         for (int i = 0; i < k.kw; ++i) sum += std::int64_t(k.k[std::size_t(j * k.kw + i)]) * px(j, i);
                     return got == ref::divided<T>(sum, divisor, mode, exact, 0);
                 }
-                double sum = 0, mag = 0;
-                for (int j = 0; j < k.kh; ++j)
-                    for (int i = 0; i < k.kw; ++i) {
-                        const double c = k.k[std::size_t(j * k.kw + i)];
-                        const double term = (integer ? double(float(c * (1.0 / divisor))) : c) * double(px(j, i));
-                        sum += term, mag += std::fabs(term);
-                    }
-                return floatMatches<T>(sum, mag, mode, got);
+                return floatSumMatches<T>(k, integer ? divisor : 0, mode, px, got);
             }, floats);
             if (testing::Test::HasFailure()) return;
         }
@@ -205,6 +213,18 @@ TEST(FilterBorder, IntegerKernelsAreExactForEveryBorderAndDivisor) {
     sweep<Qvn16s>("16s C1", qvniFilterBorder_16s_C1R, qvn16s, 1, true);
     sweep<Qvn16s>("16s C3", qvniFilterBorder_16s_C3R, qvn16s, 3, true);
     sweep<Qvn16u>("16u C4 (float)", qvniFilterBorder_16u_C4R, qvn16u, 4, true);
+}
+
+// Rows wider than the separable path's chunks: the seams between chunks and
+// the last chunk, which overlaps the one before it.
+TEST(FilterBorder, SeparableKernelsAcrossChunks) {
+    const Kernel k = floatKernel(5, 5, 3, true);
+    const auto check = [&](const auto& px, auto got) { return floatSumMatches(k, 0, 0, px, got); };
+    const QvnRoiSize c1{1100, 6}, c3{390, 5};
+    runScene<Qvn32f>("32f C1", qvniFilterBorder_32f_C1R, build(k, false, qvn32f, 1, c1, 0, 5), k, 1, c1.width, c1.height,
+                     kBorders[0], 5, check, true);
+    runScene<Qvn32f>("32f C3", qvniFilterBorder_32f_C3R, build(k, false, qvn32f, 3, c3, 0, 6), k, 3, c3.width, c3.height,
+                     kBorders[1], 6, check, true);
 }
 
 TEST(FilterBorder, FloatKernelsFollowTheDoubleSum) {

@@ -672,6 +672,14 @@ inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) { return zipLo(a, b); }
 template <class T>
 inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
+// a itself, held in a register: a loaded vector that several instructions
+// use is then loaded once, where the compiler would otherwise read memory
+// again at each use (an operand folded into every instruction). Emits nothing.
+template <class T>
+inline Vec<T> inRegister(Vec<T> a) {
+    asm("" : "+x"(a.v));
+    return a;
+}
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
 inline void transposeSquare(Vec<float> r[4]) { _MM_TRANSPOSE4_PS(r[0].v, r[1].v, r[2].v, r[3].v); }

@@ -591,6 +591,12 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
     else return fromBits<T>(_mm512_unpackhi_epi64(bits(a), bits(b)));
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm512_packs_epi32(lo.v, hi.v)}; }
+// a itself, held in a register (see v128). Emits nothing.
+template <class T>
+inline Vec<T> inRegister(Vec<T> a) {
+    asm("" : "+v"(a.v));
+    return a;
+}
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place:
 // 4 x 4 blocks within each 16-byte lane, then the lanes of each group of four
