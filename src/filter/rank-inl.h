@@ -392,7 +392,7 @@ struct ExtremaFilter {
                 int64_t seen = rb - k.top, lastNaN = valueNaN ? INT64_MAX : INT64_MIN;
                 rows(c, out, rb, re, [&](int64_t y0, int64_t y1, const auto& go) {
                     for (; seen < y1; ++seen)
-                        if (kr::anyNaN(row(seen, c), (c.cb - c.ca) * C)) lastNaN = seen;
+                        if (kr::anyNaN(row(seen, c), (c.cb - c.ca) * C)) lastNaN = std::max(lastNaN, seen);
                     if (lastNaN >= y0) go(std::true_type{});
                     else go(std::false_type{});
                 });
