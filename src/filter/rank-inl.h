@@ -519,7 +519,6 @@ inline QvnStatus extrema(const T* pSrc, int64_t srcStep, T* pDst, int64_t dstSte
                                   scratch, rowElems, extremaChunk(roi.width, kw, C, e), valueNaN};
     f.prepare();
     inBands<T, L>(pDst, dstStep, roi, k, bands, f);
-    isa::storeFence();  // streamed stores, where the call streams, are ordered before it returns
     return qvnOk;
 }
 

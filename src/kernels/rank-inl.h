@@ -672,17 +672,24 @@ struct ExtremaRows {
     // out[e] = op over v[e + i * stride], i < kw, for e < cw; with v1 and
     // out1 set the same for a second row in the same loop (kw up to
     // kDirectColumns).
+    // Streamed rows are fenced here, so no path leaves with a store unfenced.
     template <bool P>
     void across(const T* v, T* out, int64_t cw, const T* v1 = nullptr, T* out1 = nullptr) const {
+        if (!stream) return across<P, false>(v, out, cw, v1, out1);
+        across<P, true>(v, out, cw, v1, out1);
+        isa::storeFence();
+    }
+    template <bool P, bool S>
+    void across(const T* v, T* out, int64_t cw, const T* v1, T* out1) const {
         using X = Extreme<T, Max, P>;
         if (kw <= kDirectColumns) {
             withConstant<kDirectColumns>(kw, [&](auto K) {
-                if (v1) acrossDirect<P, decltype(K)::value, 2>(v, out, cw, v1, out1);
-                else acrossDirect<P, decltype(K)::value, 1>(v, out, cw, v1, out1);
+                if (v1) acrossDirect<P, S, decltype(K)::value, 2>(v, out, cw, v1, out1);
+                else acrossDirect<P, S, decltype(K)::value, 1>(v, out, cw, v1, out1);
             });
             return;
         }
-        if (v1) across<P>(v1, out1, cw);
+        if (v1) across<P, S>(v1, out1, cw, nullptr, nullptr);
         // spans of p columns: r(x) = op over v[x .. x + (p - 1) * stride]
         const T* r = v;
         int64_t n = cw + (kw - 1) * stride, p = 1;
@@ -696,11 +703,11 @@ struct ExtremaRows {
         const int64_t off = (kw - p) * stride;
         forBlocks(cw, L, [&](int64_t e) {
             const V<T> v = X::of(isa::loadU(r + e), isa::loadU(r + e + off));
-            if (stream && isa::alignedV(out + e)) isa::storeStream(out + e, v);
+            if (S && isa::alignedV(out + e)) isa::storeStream(out + e, v);
             else output.put(out + e, v);
         }, [&](int64_t e) {
             if (!output.skips(e)) out[e] = X::of(r[e], r[e + off]);
-        }, stream ? filt::alignmentHead(out) : 0);
+        }, S ? filt::alignmentHead(out) : 0);
     }
 
     // Elements from p to the next vector-aligned one of the layer's vectors.
@@ -711,7 +718,7 @@ struct ExtremaRows {
         return int64_t((B - a % B) % B / sizeof(T));
     }
 
-    template <bool P, int K, int R>
+    template <bool P, bool S, int K, int R>
     void acrossDirect(const T* v0, T* out0, int64_t cw, const T* v1, T* out1) const {
         using Lay = Layer<true>;
         const int64_t s = stride;
@@ -724,7 +731,7 @@ struct ExtremaRows {
                 const T* const p = v[r] + e;
                 const auto acc = tree<0, K, P>([&](int i) __attribute__((always_inline)) { return Lay::load(p + i * s); });
                 if (alpha) storeKeep(out[r] + e, acc, keep);
-                else if (stream && Lay::aligned(out[r] + e)) storeStream(out[r] + e, acc);
+                else if (S && Lay::aligned(out[r] + e)) storeStream(out[r] + e, acc);
                 else storeU(out[r] + e, acc);
             }
         }, [&](int64_t e) {
@@ -733,7 +740,7 @@ struct ExtremaRows {
                 const T* const p = v[r] + e;
                 out[r][e] = tree<0, K, P>([&](int i) { return p[i * s]; });
             }
-        }, stream ? head<Lay>(out0) : 0);
+        }, S ? head<Lay>(out0) : 0);
     }
 };
 
