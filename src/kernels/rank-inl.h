@@ -33,7 +33,8 @@
 //                          at a time, and the prefix steps of running
 //                          extrema over blocks of taller masks; a row pass
 //                          over up to kDirectColumns neighbours as one
-//                          unrolled tree, or by doubling spans.
+//                          unrolled tree, up to twice that as a tree of
+//                          pairs, or by doubling spans.
 //
 // Floats: the networks use the vector minimum and maximum (a NaN input
 // gives whatever the network makes of it, the same on every target); the
@@ -684,12 +685,24 @@ struct ExtremaRows {
         using X = Extreme<T, Max, P>;
         if (kw <= kDirectColumns) {
             withConstant<kDirectColumns>(kw, [&](auto K) {
-                if (v1) acrossDirect<P, S, decltype(K)::value, 2>(v, out, cw, v1, out1);
-                else acrossDirect<P, S, decltype(K)::value, 1>(v, out, cw, v1, out1);
+                constexpr int k = decltype(K)::value;
+                if (v1) acrossDirect<P, S, k, 2>(v, out, cw, v1, out1, stride, (k - 1) * stride);
+                else acrossDirect<P, S, k, 1>(v, out, cw, v1, out1, stride, (k - 1) * stride);
             });
             return;
         }
         if (v1) across<P, S>(v1, out1, cw, nullptr, nullptr);
+        if (kw <= 2 * kDirectColumns) {
+            // pairs r(x) = op(v[x], v[x + stride]), then (kw + 1) / 2 of them
+            // two columns apart, the last at kw - 2 (overlapping the one
+            // before it when kw is odd: an extremum may count a value twice)
+            const int64_t n = cw + (kw - 2) * stride;
+            combine<P>(v, v + stride, ping, n);
+            withConstant<kDirectColumns>((kw + 1) / 2, [&](auto K) {
+                acrossDirect<P, S, decltype(K)::value, 1>(ping, out, cw, nullptr, nullptr, 2 * stride, (kw - 2) * stride);
+            });
+            return;
+        }
         // spans of p columns: r(x) = op over v[x .. x + (p - 1) * stride]
         const T* r = v;
         int64_t n = cw + (kw - 1) * stride, p = 1;
@@ -718,10 +731,12 @@ struct ExtremaRows {
         return int64_t((B - a % B) % B / sizeof(T));
     }
 
+    // K taps of v0 (and v1) per output: at i * s for i < K - 1, the last at
+    // lastOff.
     template <bool P, bool S, int K, int R>
-    void acrossDirect(const T* v0, T* out0, int64_t cw, const T* v1, T* out1) const {
+    void acrossDirect(const T* v0, T* out0, int64_t cw, const T* v1, T* out1, int64_t s, int64_t lastOff) const {
         using Lay = Layer<true>;
-        const int64_t s = stride;
+        const auto off = [&](int i) __attribute__((always_inline)) { return i == K - 1 ? lastOff : i * s; };
         const bool alpha = output.alpha;
         const auto keep = Lay::load(reinterpret_cast<const T*>(output.lanes.bytes));
         const T* const v[2] = {v0, v1};
@@ -729,7 +744,7 @@ struct ExtremaRows {
         forBlocks(cw, Lay::kLanes<T>, [&](int64_t e) {
             for (int r = 0; r < R; ++r) {
                 const T* const p = v[r] + e;
-                const auto acc = tree<0, K, P>([&](int i) __attribute__((always_inline)) { return Lay::load(p + i * s); });
+                const auto acc = tree<0, K, P>([&](int i) __attribute__((always_inline)) { return Lay::load(p + off(i)); });
                 if (alpha) storeKeep(out[r] + e, acc, keep);
                 else if (S && Lay::aligned(out[r] + e)) storeStream(out[r] + e, acc);
                 else storeU(out[r] + e, acc);
@@ -738,7 +753,7 @@ struct ExtremaRows {
             if (output.skips(e)) return;
             for (int r = 0; r < R; ++r) {
                 const T* const p = v[r] + e;
-                out[r][e] = tree<0, K, P>([&](int i) { return p[i * s]; });
+                out[r][e] = tree<0, K, P>([&](int i) { return p[off(i)]; });
             }
         }, S ? head<Lay>(out0) : 0);
     }
