@@ -356,9 +356,10 @@ QVN_API QvnStatus qvniFilterMinBorderGetBufferSize(QvnRoiSize roiSize, QvnRoiSiz
  * qvnBorderReplicate, qvnBorderMirror or qvnBorderConstant (borderValue, per
  * channel for C3, C4 and AC4) with any in-memory flags, or qvnBorderInMem.
  * A 1 x 1 mask copies with qvnBorderInMem and writes nothing with any other
- * kind (qvnWarnNoOperation). 32f: a NaN in the rectangle gives a NaN. pDst
- * may be pSrc. The cost per pixel does not grow with the mask's height and
- * grows with the logarithm of its width beyond 8.
+ * kind (qvnWarnNoOperation). 32f: a NaN in the rectangle gives a NaN; -0
+ * and +0 are equal values, and which of them a tie gives is unspecified (the
+ * same on every target). pDst may be pSrc. The cost per pixel does not grow
+ * with the mask's height and grows with the logarithm of its width beyond 8.
  * Checks, in order: a null pSrc or pDst or pBuffer (qvnErrNullPointer); a
  * width or height below 1 (qvnErrSize); a mask width or height below 1
  * (qvnErrMaskSize); a border kind the function does not accept

@@ -26,17 +26,21 @@
 //                          counts and a group's fine counts are brought up to
 //                          date only when the median falls in it; 32-bit ones
 //                          walk the median from its previous position.
-//   ExtremaKernel<T, Max>  the minimum or maximum of the mask rectangle:
-//                          columns first (rows combined directly, or by
-//                          running extrema over blocks of mask-height rows,
-//                          three operations per element whatever the height),
-//                          then rows (combined directly, or by doubling
-//                          spans). A 1 x 1 mask is a copy.
+//   CopyKernel<T>          a copy with the alpha rule (1 x 1 masks, bands).
+//   ExtremaRows<T, Max>    the row operations of the separable minimum and
+//                          maximum (filter/rank-inl.h drives them): a column
+//                          pass over up to kDirectRows rows, two output rows
+//                          at a time, and the prefix steps of running
+//                          extrema over blocks of taller masks; a row pass
+//                          over up to kDirectColumns neighbours as one
+//                          unrolled tree, up to twice that as a tree of
+//                          pairs, or by doubling spans.
 //
 // Floats: the networks use the vector minimum and maximum (a NaN input
 // gives whatever the network makes of it, the same on every target); the
 // selection orders the IEEE total order of the bits; the extrema propagate
-// NaN (any NaN in the rectangle gives a NaN).
+// NaN (any NaN in the rectangle gives a NaN) where asked to, on rows the
+// driver found a NaN in, and use the plain instruction elsewhere.
 #ifndef QVN_KERNELS_RANK_INL_H
 #define QVN_KERNELS_RANK_INL_H
 
@@ -499,6 +503,26 @@ struct HistKernel {
     }
 };
 
+// ---- copies with the alpha rule ------------------------------------------------------------------
+template <class T>
+struct CopyKernel {
+    static constexpr int64_t L = int64_t(isa::kLanes<T>);
+    Output<T> output;
+
+    int64_t blockElems() const { return L; }
+
+    void operator()(const T* src, int64_t sstep, T* dst, int64_t dstep, int64_t w, int64_t h) const {
+        for (int64_t y = 0; y < h; ++y) {
+            const T* in = rowAt(src, sstep, y);
+            T* out = byteOffset(dst, y * dstep);
+            forBlocks(w, L, [&](int64_t e) { output.put(out + e, isa::loadU(in + e)); },
+                      [&](int64_t e) {
+                          if (!output.skips(e)) out[e] = in[e];
+                      });
+        }
+    }
+};
+
 // ---- minimum and maximum ---------------------------------------------------------------------
 // The vector layers a kernel may run a loop on: isa, or isa_offset for
 // loops whose loads sit a few elements off the vector alignment.
@@ -511,19 +535,29 @@ struct Layer {
         if constexpr (Offset) return isa_offset::loadU(p);
         else return isa::loadU(p);
     }
+    template <class T>
+    static bool aligned(const T* p) {
+        if constexpr (Offset) return isa_offset::alignedV(p);
+        else return isa::alignedV(p);
+    }
 };
 
-template <class T, bool Max>
+// The extremum of two values. Floats with Propagate: a NaN operand gives a
+// NaN (the vector minimum or maximum returns its second operand when either
+// is NaN, so both orders are or'ed together). Without it the plain vector
+// instruction, for rows known to hold no NaN; on equal values it returns b
+// (so +0 or -0 as the operands' order says, the same on every target).
+template <class T, bool Max, bool Propagate>
 struct Extreme {
     // Any layer's vectors (the layer's functions found by argument).
     template <class W, class = std::enable_if_t<!std::is_arithmetic_v<W>>>
     static W of(W a, W b) {
-        if constexpr (std::is_same_v<T, float>)  // either operand NaN: a NaN
+        if constexpr (std::is_same_v<T, float> && Propagate)
             return Max ? bitOr(max(a, b), max(b, a)) : bitOr(min(a, b), min(b, a));
         else return Max ? max(a, b) : min(a, b);
     }
     static T of(T a, T b) {
-        if constexpr (std::is_same_v<T, float>) {
+        if constexpr (std::is_same_v<T, float> && Propagate) {
             const float x = Max ? hi(a, b) : lo(a, b), y = Max ? hi(b, a) : lo(b, a);
             std::uint32_t bx, by;
             std::memcpy(&bx, &x, 4), std::memcpy(&by, &y, 4);
@@ -537,128 +571,142 @@ struct Extreme {
     }
 };
 
-// Rows and columns up to these counts are combined directly; more by running
-// extrema (rows) or doubling spans (columns).
+// Whether any of n floats is a NaN (a NaN is the one value not <= itself).
+inline bool anyNaN(const float* p, int64_t n) {
+    constexpr int64_t L = int64_t(isa::kLanes<float>);
+    const V<float> ones = isa::cmpLe(isa::zero<float>(), isa::zero<float>());
+    V<float> ordered = ones;
+    bool scalar = false;
+    forBlocks(n, L, [&](int64_t e) {
+        const V<float> v = isa::loadU(p + e);
+        ordered = isa::bitAnd(ordered, isa::cmpLe(v, v));
+    }, [&](int64_t e) { scalar |= !(p[e] <= p[e]); });
+    return scalar || isa::anyTrue(isa::bitXor(ordered, ones));
+}
+
+// Masks up to these sides are combined directly: up to kDirectRows rows, two
+// output rows at a time (they share kh - 1 source rows), and up to
+// kDirectColumns columns; taller masks by running extrema over blocks of kh
+// rows (three operations per element whatever the height), wider ones by
+// doubling spans.
 inline constexpr int kDirectRows = 5, kDirectColumns = 8;
-// Output elements of a column chunk (bytes of T).
-inline constexpr int64_t kExtremaChunkBytes = 8192;
 
-// Elements of T the extrema kernel's scratch holds for a mask over rows of
-// width elements (C channels), and of one of its rows.
-inline int64_t extremaRow(int64_t kw, int64_t width, int64_t C, int64_t elemBytes) {
-    return std::min(width, kExtremaChunkBytes / elemBytes) + (kw - 1) * C;
-}
-inline int64_t extremaScratch(int64_t kw, int64_t kh, int64_t width, int64_t C, int64_t elemBytes) {
-    const int64_t rows = 1 + (kw > kDirectColumns ? 2 : 0) + (kh > kDirectRows ? kh + 1 : 1);
-    return rows * extremaRow(kw, width, C, elemBytes);
-}
-
+// The row operations of the separable extrema: the column pass writes the
+// extremum of each column of kh rows into a row of column results, the
+// row pass the extremum of kw neighbours of such a row (stride elements
+// apart) into the output. P: floats may hold NaN (Extreme's Propagate).
 template <class T, bool Max>
-struct ExtremaKernel {
-    using X = Extreme<T, Max>;
+struct ExtremaRows {
     static constexpr int64_t L = int64_t(isa::kLanes<T>);
-
     int kw, kh;
     int64_t stride;
     Output<T> output;
-    T* scratch;    // extremaScratch elements
-    int64_t row;   // elements of one scratch row (extremaRow)
-
-    int64_t blockElems() const { return L; }
-
-    void operator()(const T* src, int64_t sstep, T* dst, int64_t dstep, int64_t w, int64_t h) const {
-        const int64_t chunk = kExtremaChunkBytes / int64_t(sizeof(T));
-        for (int64_t e0 = 0; e0 < w; e0 += chunk) {
-            const int64_t cw = std::min(chunk, w - e0);
-            if (kh <= kDirectRows) direct(src + e0, sstep, dst + e0, dstep, cw, h);
-            else blocks(src + e0, sstep, dst + e0, dstep, cw, h);
-        }
-    }
-
-    int64_t rowElems() const { return row; }
-    T* vrow() const { return scratch; }
-    T* ping() const { return scratch + rowElems(); }
-    T* pong() const { return scratch + 2 * rowElems(); }
-    T* suffix(int i) const { return scratch + (kw > kDirectColumns ? 3 : 1) * rowElems() + i * rowElems(); }
+    T* ping;  // two rows for the doubling spans of wide masks
+    T* pong;
+    bool stream = false;  // non-temporal output stores where aligned (never with alpha)
 
     // d[e] = op(a[e], b[e]) for e < n (d may be a).
+    template <bool P>
     static void combine(const T* a, const T* b, T* d, int64_t n) {
+        using X = Extreme<T, Max, P>;
         forBlocks(n, L, [&](int64_t e) { isa::storeU(d + e, X::of(isa::loadU(a + e), isa::loadU(b + e))); },
                   [&](int64_t e) { d[e] = X::of(a[e], b[e]); });
     }
 
-    // Rows combined directly, two output rows at a time (they share kh - 1
-    // rows), into two column rows; then the row pass.
-    void direct(const T* src, int64_t sstep, T* dst, int64_t dstep, int64_t cw, int64_t h) const {
-        const int64_t n = cw + (kw - 1) * stride;
-        for (int64_t y = 0; y < h; y += 2) {
-            const bool two = y + 1 < h;
-            const auto row = [&](int64_t j) { return rowAt(src, sstep, y + j); };
-            if (kh == 1) {
-                across(row(0), byteOffset(dst, y * dstep), cw);
-                if (two) across(row(1), byteOffset(dst, (y + 1) * dstep), cw);
-                continue;
-            }
-            T* const r0 = vrow();
-            T* const r1 = suffix(0);
-            forBlocks(n, L, [&](int64_t e) {
-                V<T> shared = isa::loadU(row(1) + e);
-                for (int j = 2; j < kh; ++j) shared = X::of(shared, isa::loadU(row(j) + e));
-                isa::storeU(r0 + e, X::of(isa::loadU(row(0) + e), shared));
-                if (two) isa::storeU(r1 + e, X::of(shared, isa::loadU(row(kh) + e)));
-            }, [&](int64_t e) {
-                T shared = row(1)[e];
-                for (int j = 2; j < kh; ++j) shared = X::of(shared, row(j)[e]);
-                r0[e] = X::of(row(0)[e], shared);
-                if (two) r1[e] = X::of(shared, row(kh)[e]);
-            });
-            across(r0, byteOffset(dst, y * dstep), cw);
-            if (two) across(r1, byteOffset(dst, (y + 1) * dstep), cw);
+    // The extremum of at(I) .. at(I + N - 1) as a balanced tree (short
+    // dependency chains), unrolled; vectors and scalars take the same tree.
+    template <int I, int N, bool P, class At>
+    QVN_ALWAYS_INLINE static auto tree(const At& at) {
+        if constexpr (N == 1) {
+            return at(I);
+        } else {
+            constexpr int h = (N + 1) / 2;
+            return Extreme<T, Max, P>::of(tree<I, h, P>(at), tree<I + h, N - h, P>(at));
         }
     }
 
-    // Running extrema over blocks of kh rows: for the block starting at row
-    // b, suffix(i) holds rows b + i .. b + kh - 1 combined; output row b + i
-    // combines suffix(i) with rows b + kh .. b + kh + i - 1 (a running prefix).
-    void blocks(const T* src, int64_t sstep, T* dst, int64_t dstep, int64_t cw, int64_t h) const {
-        const int64_t n = cw + (kw - 1) * stride;
-        T* const prefix = vrow();
-        T* const both = suffix(kh);
-        for (int64_t b = 0; b < h; b += kh) {
-            const auto row = [&](int64_t j) { return rowAt(src, sstep, b + j); };
-            const auto suf = [&](int i) -> const T* { return i == kh - 1 ? row(kh - 1) : suffix(i); };
-            for (int i = kh - 2; i >= 0; --i) combine(row(i), suf(i + 1), suffix(i), n);
-            across(suf(0), byteOffset(dst, b * dstep), cw);
-            for (int i = 1; i < kh && b + i < h; ++i) {
-                if (i == 1) std::memcpy(prefix, row(kh), std::size_t(n) * sizeof(T));
-                else combine(prefix, row(kh + i - 1), prefix, n);
-                combine(suf(i), prefix, both, n);
-                across(both, byteOffset(dst, (b + i) * dstep), cw);
-            }
-        }
+    // f(std::integral_constant<int, n>) for a runtime n in [1, N].
+    template <int N, class F>
+    QVN_ALWAYS_INLINE static void withConstant(int n, const F& f) {
+        if constexpr (N > 1)
+            if (n < N) return withConstant<N - 1>(n, f);
+        f(std::integral_constant<int, N>{});
     }
 
-    // out[e] = op over v[e + i * stride], i < kw, for e < cw.
-    void across(const T* v, T* out, int64_t cw) const {
+    // A step of the running prefix: pd = op(pa, in) (pd may be pa), and
+    // d = op(sf, pd); with in null, pd is pa as it is.
+    template <bool P>
+    static void prefixStep(const T* pa, const T* in, T* pd, const T* sf, T* d, int64_t n) {
+        using X = Extreme<T, Max, P>;
+        const auto step = [&](auto load, auto store, int64_t e) __attribute__((always_inline)) {
+            auto p = load(pa + e);
+            if (in) p = X::of(p, load(in + e)), store(pd + e, p);
+            store(d + e, X::of(load(sf + e), p));
+        };
+        forBlocks(n, L, [&](int64_t e) {
+            step([](const T* q) { return isa::loadU(q); }, [](T* q, V<T> v) { isa::storeU(q, v); }, e);
+        }, [&](int64_t e) { step([](const T* q) { return *q; }, [](T* q, T v) { *q = v; }, e); });
+    }
+
+    // o0 over rows r[0 .. kh - 1] and, when o1 is set, o1 over r[1 .. kh]
+    // (2 <= kh <= kDirectRows), n elements each.
+    template <bool P>
+    void columnPair(const T* const* r, T* o0, T* o1, int64_t n) const {
+        withConstant<kDirectRows>(kh, [&](auto K) {
+            constexpr int h = decltype(K)::value;
+            if constexpr (h >= 2) columnPair<P, h>(r, o0, o1, n);
+        });
+    }
+    template <bool P, int H>
+    static void columnPair(const T* const* r, T* o0, T* o1, int64_t n) {
+        using X = Extreme<T, Max, P>;
+        const auto pair = [&](auto load, auto store, int64_t e) __attribute__((always_inline)) {
+            const auto shared = tree<1, H - 1, P>([&](int j) __attribute__((always_inline)) { return load(r[j] + e); });
+            store(o0 + e, X::of(load(r[0] + e), shared));
+            if (o1) store(o1 + e, X::of(shared, load(r[H] + e)));
+        };
+        forBlocks(n, L, [&](int64_t e) {
+            pair([](const T* p) { return isa::loadU(p); }, [](T* p, V<T> v) { isa::storeU(p, v); }, e);
+        }, [&](int64_t e) { pair([](const T* p) { return *p; }, [](T* p, T v) { *p = v; }, e); });
+    }
+
+    // out[e] = op over v[e + i * stride], i < kw, for e < cw; with v1 and
+    // out1 set the same for a second row in the same loop (kw up to
+    // kDirectColumns).
+    // Streamed rows are fenced here, so no path leaves with a store unfenced.
+    template <bool P>
+    void across(const T* v, T* out, int64_t cw, const T* v1 = nullptr, T* out1 = nullptr) const {
+        if (!stream) return across<P, false>(v, out, cw, v1, out1);
+        across<P, true>(v, out, cw, v1, out1);
+        isa::storeFence();
+    }
+    template <bool P, bool S>
+    void across(const T* v, T* out, int64_t cw, const T* v1, T* out1) const {
+        using X = Extreme<T, Max, P>;
         if (kw <= kDirectColumns) {
-            using Lay = Layer<true>;
-            forBlocks(cw, Lay::kLanes<T>, [&](int64_t e) {
-                auto acc = Lay::load(v + e);
-                for (int i = 1; i < kw; ++i) acc = X::of(acc, Lay::load(v + e + i * stride));
-                if (output.alpha) storeKeep(out + e, acc, Lay::load(reinterpret_cast<const T*>(output.lanes.bytes)));
-                else storeU(out + e, acc);
-            }, [&](int64_t e) {
-                if (output.skips(e)) return;
-                T acc = v[e];
-                for (int i = 1; i < kw; ++i) acc = X::of(acc, v[e + i * stride]);
-                out[e] = acc;
+            withConstant<kDirectColumns>(kw, [&](auto K) {
+                constexpr int k = decltype(K)::value;
+                if (v1) acrossDirect<P, S, k, 2>(v, out, cw, v1, out1, stride, (k - 1) * stride);
+                else acrossDirect<P, S, k, 1>(v, out, cw, v1, out1, stride, (k - 1) * stride);
+            });
+            return;
+        }
+        if (v1) across<P, S>(v1, out1, cw, nullptr, nullptr);
+        if (kw <= 2 * kDirectColumns) {
+            // pairs r(x) = op(v[x], v[x + stride]), then (kw + 1) / 2 of them
+            // two columns apart, the last at kw - 2 (overlapping the one
+            // before it when kw is odd: an extremum may count a value twice)
+            const int64_t n = cw + (kw - 2) * stride;
+            combine<P>(v, v + stride, ping, n);
+            withConstant<kDirectColumns>((kw + 1) / 2, [&](auto K) {
+                acrossDirect<P, S, decltype(K)::value, 1>(ping, out, cw, nullptr, nullptr, 2 * stride, (kw - 2) * stride);
             });
             return;
         }
         // spans of p columns: r(x) = op over v[x .. x + (p - 1) * stride]
         const T* r = v;
         int64_t n = cw + (kw - 1) * stride, p = 1;
-        for (T* next = ping(); 2 * p <= kw; next = next == ping() ? pong() : ping()) {
+        for (T* next = ping; 2 * p <= kw; next = next == ping ? pong : ping) {
             n -= p * stride;
             const int64_t off = p * stride;
             forBlocks(n, L, [&](int64_t e) { isa::storeU(next + e, X::of(isa::loadU(r + e), isa::loadU(r + e + off))); },
@@ -666,10 +714,48 @@ struct ExtremaKernel {
             r = next, p *= 2;
         }
         const int64_t off = (kw - p) * stride;
-        forBlocks(cw, L, [&](int64_t e) { output.put(out + e, X::of(isa::loadU(r + e), isa::loadU(r + e + off))); },
-                  [&](int64_t e) {
-                      if (!output.skips(e)) out[e] = X::of(r[e], r[e + off]);
-                  });
+        forBlocks(cw, L, [&](int64_t e) {
+            const V<T> v = X::of(isa::loadU(r + e), isa::loadU(r + e + off));
+            if (S && isa::alignedV(out + e)) isa::storeStream(out + e, v);
+            else output.put(out + e, v);
+        }, [&](int64_t e) {
+            if (!output.skips(e)) out[e] = X::of(r[e], r[e + off]);
+        }, S ? filt::alignmentHead(out) : 0);
+    }
+
+    // Elements from p to the next vector-aligned one of the layer's vectors.
+    template <class Lay>
+    static int64_t head(const T* p) {
+        const auto a = reinterpret_cast<std::uintptr_t>(p);
+        constexpr std::uintptr_t B = std::uintptr_t(Lay::template kLanes<T>) * sizeof(T);
+        return int64_t((B - a % B) % B / sizeof(T));
+    }
+
+    // K taps of v0 (and v1) per output: at i * s for i < K - 1, the last at
+    // lastOff.
+    template <bool P, bool S, int K, int R>
+    void acrossDirect(const T* v0, T* out0, int64_t cw, const T* v1, T* out1, int64_t s, int64_t lastOff) const {
+        using Lay = Layer<true>;
+        const auto off = [&](int i) __attribute__((always_inline)) { return i == K - 1 ? lastOff : i * s; };
+        const bool alpha = output.alpha;
+        const auto keep = Lay::load(reinterpret_cast<const T*>(output.lanes.bytes));
+        const T* const v[2] = {v0, v1};
+        T* const out[2] = {out0, out1};
+        forBlocks(cw, Lay::kLanes<T>, [&](int64_t e) {
+            for (int r = 0; r < R; ++r) {
+                const T* const p = v[r] + e;
+                const auto acc = tree<0, K, P>([&](int i) __attribute__((always_inline)) { return Lay::load(p + off(i)); });
+                if (alpha) storeKeep(out[r] + e, acc, keep);
+                else if (S && Lay::aligned(out[r] + e)) storeStream(out[r] + e, acc);
+                else storeU(out[r] + e, acc);
+            }
+        }, [&](int64_t e) {
+            if (output.skips(e)) return;
+            for (int r = 0; r < R; ++r) {
+                const T* const p = v[r] + e;
+                out[r][e] = tree<0, K, P>([&](int i) { return p[off(i)]; });
+            }
+        }, S ? head<Lay>(out0) : 0);
     }
 };
 

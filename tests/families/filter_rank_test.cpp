@@ -18,6 +18,7 @@
 #include "filter/rank-inl.h"
 #include "qvnip.h"
 #include "ref/filter_ref.h"
+#include "support/cache_double.h"
 #include "support/sweep.h"
 
 namespace qvn::test {
@@ -205,23 +206,71 @@ TEST(FilterRank, MinimumAndMaximumOfTheRectangle) {
         sweep(c, kExtremaMasks);
 }
 
-// A NaN anywhere in the rectangle gives a NaN, whichever path reaches it.
+// Rows wider than a column chunk (8 KiB): every border kind and in-memory
+// side, synthesised columns read from the first and last chunks, in place.
+TEST(FilterRank, ExtremaAcrossColumnChunks) {
+    const RankCase<Qvn8u> max{"Max 8u C3", Rank::kMax, 3, false, qvniFilterMaxBorder_8u_C3R};
+    const RankCase<Qvn32f> min{"Min 32f AC4", Rank::kMin, 4, true, qvniFilterMinBorder_32f_AC4R};
+    std::uint32_t seed = 7;
+    for (const QvnRoiSize mask : {QvnRoiSize{7, 3}, QvnRoiSize{20, 11}})
+        for (const BorderCase& b : kBorders) {
+            scene(max, {3000, 4}, mask, b, seed % 2 == 0, seed), ++seed;
+            scene(min, {700, 3}, mask, b, seed % 2 == 0, seed), ++seed;
+            if (testing::Test::HasFailure()) return;
+        }
+}
+
+// A NaN anywhere in the rectangle gives a NaN, whichever path reaches it:
+// in one chunk or the second, from the source or from a NaN border value.
 TEST(FilterRank, ExtremaPropagateNaN) {
-    for (const QvnRoiSize mask : {QvnRoiSize{3, 3}, QvnRoiSize{12, 9}}) {
-        const int w = 40, h = 20;
+    const float nan = std::numeric_limits<Qvn32f>::quiet_NaN();
+    struct Case {
+        QvnRoiSize roi, mask;
+        int nanX, nanY;  // -1: the NaN is the constant border's value
+    };
+    for (const Case& c : {Case{{40, 20}, {3, 3}, 20, 10}, Case{{40, 20}, {12, 9}, 20, 10}, Case{{2500, 12}, {5, 5}, 2300, 6},
+                          Case{{2500, 12}, {3, 7}, 2047, 3}, Case{{40, 20}, {5, 3}, -1, -1}}) {
+        const int w = c.roi.width, h = c.roi.height;
         std::vector<Qvn32f> src(std::size_t(w * h), 1.0f), dst(src.size());
-        src[std::size_t(10 * w + 20)] = std::numeric_limits<Qvn32f>::quiet_NaN();
+        if (c.nanX >= 0) src[std::size_t(c.nanY * w + c.nanX)] = nan;
         int n = 0;
-        ASSERT_EQ(qvniFilterMinBorderGetBufferSize({w, h}, mask, qvn32f, 1, &n), qvnOk);
+        ASSERT_EQ(qvniFilterMinBorderGetBufferSize(c.roi, c.mask, qvn32f, 1, &n), qvnOk);
         std::vector<Qvn8u> buffer(static_cast<std::size_t>(n));
-        ASSERT_EQ(qvniFilterMinBorder_32f_C1R(src.data(), w * 4, dst.data(), w * 4, {w, h}, mask, qvnBorderReplicate, 0,
-                                              buffer.data()), qvnOk);
-        const int ax = (mask.width - 1) / 2, ay = (mask.height - 1) / 2;
+        ASSERT_EQ(qvniFilterMinBorder_32f_C1R(src.data(), w * 4, dst.data(), w * 4, c.roi, c.mask,
+                                              c.nanX >= 0 ? qvnBorderReplicate : qvnBorderConstant, nan, buffer.data()),
+                  qvnOk);
+        const int ax = (c.mask.width - 1) / 2, ay = (c.mask.height - 1) / 2;
         for (int y = 0; y < h; ++y)
             for (int x = 0; x < w; ++x) {
-                const bool reached = 20 - x + ax >= 0 && 20 - x + ax < mask.width && 10 - y + ay >= 0 && 10 - y + ay < mask.height;
-                ASSERT_EQ(std::isnan(dst[std::size_t(y * w + x)]), reached) << x << ", " << y;
+                const int x0 = x - ax, y0 = y - ay, x1 = x0 + c.mask.width, y1 = y0 + c.mask.height;
+                const bool reached = c.nanX >= 0 ? c.nanX >= x0 && c.nanX < x1 && c.nanY >= y0 && c.nanY < y1
+                                                 : x0 < 0 || y0 < 0 || x1 > w || y1 > h;
+                ASSERT_EQ(std::isnan(dst[std::size_t(y * w + x)]), reached) << w << ": " << x << ", " << y;
+                if (!reached) ASSERT_EQ(dst[std::size_t(y * w + x)], 1.0f);
             }
+    }
+}
+
+// Outputs that would only evict the cache are stored past it, with the
+// cached stores' results.
+TEST(FilterRank, ExtremaStreamedEqualCached) {
+    const int w = 1027, h = 640;  // 657,280 bytes; the rows start off the vector alignment
+    std::vector<Qvn8u> src(std::size_t(w * h));
+    for (std::size_t i = 0; i < src.size(); ++i) src[i] = Qvn8u(i * 2654435761u >> 24);
+    for (const QvnRoiSize mask : {QvnRoiSize{5, 5}, QvnRoiSize{15, 9}}) {
+        int n = 0;
+        ASSERT_EQ(qvniFilterMaxBorderGetBufferSize({w - 1, h}, mask, qvn8u, 1, &n), qvnOk);
+        std::vector<Qvn8u> buffer(static_cast<std::size_t>(n)), out[2];
+        for (int streamed = 0; streamed < 2; ++streamed) {
+            resetCacheDouble();
+            cacheDouble().sizeBytes = streamed ? 1 : 1 << 30;
+            out[streamed].assign(src.size(), 0);
+            EXPECT_EQ(qvniFilterMaxBorder_8u_C1R(src.data() + 1, w, out[streamed].data() + 1, w, {w - 1, h}, mask,
+                                                 qvnBorderReplicate, 0, buffer.data()), qvnOk);
+            EXPECT_GE(cacheDouble().calls, 1);
+        }
+        resetCacheDouble();
+        EXPECT_EQ(out[0], out[1]);
     }
 }
 
