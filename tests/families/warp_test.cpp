@@ -225,7 +225,9 @@ void sweepWarp(const Case<T>& c, bool everyBorder) {
     for (const auto& [s, z] : kSizes)
         for (const Transform& t : transforms(s, z))
             for (int border : kBorders) {
-                runCase(c, s, z, t, border, border == (7 | 240) || (border == 7 && seed % 2), ++seed % 5 == 0, seed);
+                const bool smooth = border == (7 | 240) || (border == 7 && seed % 2);
+                const bool wide = ++seed % 5 == 0;
+                runCase(c, s, z, t, border, smooth, wide, seed);
                 if (testing::Test::HasFailure()) return;
                 if (!everyBorder && border == 6) break;
             }
