@@ -143,7 +143,7 @@ public:
 
 private:
     static V<U> load(const T* p) {
-        const V<U> x = isa::cast<U>(isa::loadOnce(p));
+        const V<U> x = isa::cast<U>(isa::inRegister(isa::loadU(p)));
         if constexpr (kBias != 0) return isa::bitXor(x, isa::set1<U>(U(kBias)));
         else return x;
     }
@@ -352,12 +352,12 @@ public:
         for (; i + kUnroll * B <= n; i += kUnroll * B) {
             prefetchAhead(p + i, kUnroll * B * std::int64_t(sizeof(T)));
             for (int r = 0; r < kUnroll; ++r)
-                for (int j = 0; j < kVecs; ++j) fold(u[r], j, isa::loadOnce(p + i + r * B + j * kLanes<T>));
+                for (int j = 0; j < kVecs; ++j) fold(u[r], j, isa::inRegister(isa::loadU(p + i + r * B + j * kLanes<T>)));
         }
         for (; i + B <= n; i += B)
-            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadOnce(p + i + j * kLanes<T>));
+            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::inRegister(isa::loadU(p + i + j * kLanes<T>)));
         if (i < n)
-            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::loadOnce(p + n - B + j * kLanes<T>));
+            for (int j = 0; j < kVecs; ++j) fold(u[0], j, isa::inRegister(isa::loadU(p + n - B + j * kLanes<T>)));
         each([&](auto k, auto op) {
             for (int j = 0; j < kVecs; ++j) {
                 V<T> m = u[0][k][j];

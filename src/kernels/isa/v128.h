@@ -585,15 +585,15 @@ inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm_sad_epu8(a
 inline Vec<double> loadToDouble(const float* p) {
     return {_mm_cvtps_pd(_mm_castsi128_ps(_mm_loadl_epi64(reinterpret_cast<const __m128i*>(p))))};
 }
-// loadU whose value the compiler keeps in a register: it cannot fold the
-// load again into each instruction that uses the vector. A stream that
-// misses the caches then issues one load per vector, not one per use, and
-// keeps more distinct lines in flight.
+// a itself, held in a register: the compiler cannot fold the load that
+// produced it again into each instruction that uses it. A loaded vector
+// that several instructions use is then read once, and a stream that
+// misses the caches issues one load per vector, not one per use, keeping
+// more distinct lines in flight. Emits nothing.
 template <class T>
-inline Vec<T> loadOnce(const T* p) {
-    Vec<T> v = loadU(p);
-    __asm__("" : "+x"(v.v));
-    return v;
+inline Vec<T> inRegister(Vec<T> a) {
+    __asm__("" : "+x"(a.v));
+    return a;
 }
 // The lower (higher) of x and acc by value, with -0 below +0; acc where x is
 // NaN (minps and maxps return their second operand then).
@@ -672,14 +672,6 @@ inline Vec<T> zipLoBlocks(Vec<T> a, Vec<T> b) { return zipLo(a, b); }
 template <class T>
 inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) { return zipHi(a, b); }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm_packs_epi32(lo.v, hi.v)}; }
-// a itself, held in a register: a loaded vector that several instructions
-// use is then loaded once, where the compiler would otherwise read memory
-// again at each use (an operand folded into every instruction). Emits nothing.
-template <class T>
-inline Vec<T> inRegister(Vec<T> a) {
-    asm("" : "+x"(a.v));
-    return a;
-}
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place.
 inline void transposeSquare(Vec<float> r[4]) { _MM_TRANSPOSE4_PS(r[0].v, r[1].v, r[2].v, r[3].v); }

@@ -522,15 +522,15 @@ inline Vec<T> reverseUnits(Vec<T> a) {
 inline Vec<std::uint64_t> sumBytes(Vec<std::uint8_t> a) { return {_mm512_sad_epu8(a.v, _mm512_setzero_si512())}; }
 // kLanes<double> floats from p (any alignment), each converted to double (exact).
 inline Vec<double> loadToDouble(const float* p) { return {_mm512_cvtps_pd(_mm256_loadu_ps(p))}; }
-// loadU whose value the compiler keeps in a register: it cannot fold the
-// load again into each instruction that uses the vector. A stream that
-// misses the caches then issues one load per vector, not one per use, and
-// keeps more distinct lines in flight.
+// a itself, held in a register: the compiler cannot fold the load that
+// produced it again into each instruction that uses it. A loaded vector
+// that several instructions use is then read once, and a stream that
+// misses the caches issues one load per vector, not one per use, keeping
+// more distinct lines in flight. Emits nothing.
 template <class T>
-inline Vec<T> loadOnce(const T* p) {
-    Vec<T> v = loadU(p);
-    __asm__("" : "+v"(v.v));
-    return v;
+inline Vec<T> inRegister(Vec<T> a) {
+    __asm__("" : "+v"(a.v));
+    return a;
 }
 // The lower (higher) of x and acc by value, with -0 below +0; acc where x is
 // NaN. Without a compare: minps(x, FLT_MIN) has its sign bit set exactly for
@@ -591,12 +591,6 @@ inline Vec<T> zipHiBlocks(Vec<T> a, Vec<T> b) {
     else return fromBits<T>(_mm512_unpackhi_epi64(bits(a), bits(b)));
 }
 inline Vec<std::int16_t> packSatBlocks(Vec<std::int32_t> lo, Vec<std::int32_t> hi) { return {_mm512_packs_epi32(lo.v, hi.v)}; }
-// a itself, held in a register (see v128). Emits nothing.
-template <class T>
-inline Vec<T> inRegister(Vec<T> a) {
-    asm("" : "+v"(a.v));
-    return a;
-}
 // ---- frequency transforms ------------------------------------------------------------
 // The kLanes x kLanes block of floats in r (r[i] is row i) transposed in place:
 // 4 x 4 blocks within each 16-byte lane, then the lanes of each group of four
